@@ -1,0 +1,8 @@
+#include <herald/platform/keystone/StreamObjects.h>
+
+namespace Tessel {
+
+StreamReadableObject::~StreamReadableObject() = default;
+StreamWritableObject::~StreamWritableObject() = default;
+
+}  // namespace Tessel

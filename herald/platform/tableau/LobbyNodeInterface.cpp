@@ -1,0 +1,7 @@
+#include <herald/platform/tableau/LobbyNodeInterface.h>
+
+namespace Tessel {
+
+LobbyNodeInterface::~LobbyNodeInterface() = default;
+
+}  // namespace Tessel

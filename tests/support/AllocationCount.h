@@ -1,0 +1,9 @@
+#pragma once
+
+namespace Tessel {
+
+/// How often `operator new` has been called in this program so far, the library's calls included. On Windows the
+/// library has an `operator new` of its own, which this does not see.
+int allocationCount();
+
+}  // namespace Tessel
