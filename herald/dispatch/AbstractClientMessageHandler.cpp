@@ -1,0 +1,7 @@
+#include <herald/dispatch/AbstractClientMessageHandler.h>
+
+namespace Tessel {
+
+AbstractClientMessageHandler::~AbstractClientMessageHandler() = default;
+
+}  // namespace Tessel

@@ -1,0 +1,7 @@
+#include <herald/dispatch/ConnectingClientMessageHandler.h>
+
+namespace Tessel {
+
+ConnectingClientMessageHandler::~ConnectingClientMessageHandler() = default;
+
+}  // namespace Tessel

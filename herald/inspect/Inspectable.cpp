@@ -1,0 +1,8 @@
+#include <herald/inspect/Inspectable.h>
+#include <herald/platform/keystone/TypeName.h>
+
+namespace Tessel {
+
+std::string Inspectable::className() const { return classNameOf(*type_); }
+
+}  // namespace Tessel

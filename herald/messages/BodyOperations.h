@@ -1,0 +1,27 @@
+#pragma once
+#include <herald/messages/info_objects/LayoutOperations.h>
+
+#include <string_view>
+
+namespace Tessel {
+
+/// The debug text of a message or request whose body is one record: Owner::TEXT may leave the record out.
+template <class Owner, class Record>
+std::wstring textAround(const Record& body) {
+  if constexpr (std::wstring_view(Owner::TEXT).find(L'%') == std::wstring_view::npos)
+    return Owner::TEXT;
+  else
+    return format(Owner::TEXT, body);
+}
+
+/// Describes the record under the name Owner::FIELD, or "body".
+template <class Owner, class Record>
+void describeBody(const Record& body, FieldSink& sink) {
+  FieldDescriber describer(sink);
+  if constexpr (requires { Owner::FIELD; })
+    describer(Owner::FIELD, body);
+  else
+    describer("body", body);
+}
+
+}  // namespace Tessel

@@ -1,0 +1,8 @@
+#include <herald/messages/CardEvents.h>
+#include <herald/messages/MessageOperations.h>
+
+namespace Tessel {
+
+std::wstring ClientDiscardCards::toDebugString() const { return format(L"[ClientDiscardCards%s]", discarded_); }
+
+}  // namespace Tessel

@@ -1,0 +1,69 @@
+#include <herald/messages/ClientMessageFactory.h>
+#include <herald/messages/ClientMessageTable.h>
+#include <herald/platform/keystone/ByteStream.h>
+#include <herald/platform/keystone/Exceptions.h>
+#include <herald/platform/keystone/Format.h>
+#include <herald/platform/keystone/UTFEncoder.h>
+
+namespace Tessel {
+
+namespace {
+
+constexpr const wchar_t* FILE_NAME = L"messages/ClientMessageFactory";
+
+// Of the exception that is being handled.
+std::wstring describeCurrentException() {
+  try {
+    throw;
+  } catch (const std::exception& failure) {
+    return UTFEncoder::toWide(failure.what());
+  } catch (...) {
+    return L"An exception of an unknown class.";
+  }
+}
+
+DecodedMessage reportUnknownId(int id) {
+  const std::wstring text = format(L"Unknown casino message (%d)", id);
+  MessageException(FILE_NAME, __LINE__, text, L"Received " + text).report();
+  return {.outcome = DecodeOutcome::UNKNOWN_ID, .reason = text};
+}
+
+DecodedMessage reportFailedRead(const ClientMessage& message) {
+  DecodedMessage result{.outcome = DecodeOutcome::READ_THREW, .reason = describeCurrentException()};
+  const std::wstring text = message.toDebugString();
+  MessageException(FILE_NAME, __LINE__, text, L"Unknown error when reading message " + text).report();
+  return result;
+}
+
+DecodedMessage readMessage(std::unique_ptr<ClientMessage> message, ByteStream& in) {
+  try {
+    const bool readAll = message->read(in);
+    return {.message = std::move(message),
+            .outcome = readAll ? DecodeOutcome::DECODED : DecodeOutcome::READ_ANSWERED_FALSE};
+  } catch (...) {
+    return reportFailedRead(*message);
+  }
+}
+
+DecodedMessage create(int id, ByteStream& in) {
+  const ClientMessageRow* row = findClientMessageRow(id);
+  if (row == nullptr) return reportUnknownId(id);
+  if (row->create == nullptr) return {};
+  return readMessage(row->create(), in);
+}
+
+}  // namespace
+
+ClientMessage* ClientMessageFactory::byteArrayToMessage(int id, ByteStream& in) {
+  return create(id, in).message.release();
+}
+
+DecodedMessage ClientMessageFactory::decode(int id, ByteStream& in) {
+  const std::size_t before = in.unreadCount();
+  DecodedMessage result = create(id, in);
+  result.bytesLeft = in.unreadCount();
+  result.bytesRead = before - result.bytesLeft;
+  return result;
+}
+
+}  // namespace Tessel

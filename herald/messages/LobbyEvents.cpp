@@ -1,0 +1,34 @@
+#include <herald/messages/LobbyEvents.h>
+#include <herald/messages/MessageOperations.h>
+
+namespace Tessel {
+
+void TreeReplyUpdate::handle(AbstractClientMessageHandler& handler) const { handler.handle(*this); }
+
+std::wstring TreeReplyUpdate::toDebugString() const { return L"[TreeReplyUpdate]"; }
+
+bool UnSubscribeNode::read(ByteStream& in) {
+  RecordMessage::read(in);
+  setNodeId(body().getNodeId());
+  return true;
+}
+
+std::wstring GameList::toDebugString() const { return format(L"[GameList: %s]", games_); }
+
+bool GameListUpdate::takeNodeId() {
+  setNodeId(nodeId_);
+  return true;
+}
+
+std::wstring GameListUpdate::toDebugString() const { return format(L"[GameListUpdate: %s]", added_); }
+
+std::wstring Ping::toDebugString() const { return format(L"[Ping: server time=%d, ping=%d]", serverTime_, ping_); }
+
+std::wstring NumPlayersLoggedIn::toDebugString() const {
+  return format(
+      L"[NumPlayersLoggedInMsg: iRealPlayersAtTable=%d, iPlayPlayersAtTable=%d, iNumRealTables=%d, iNumPlayTables=%d, "
+      L"iRealMoneyAtTables=%d]",
+      realPlayersAtTable_, playPlayersAtTable_, numRealTables_, numPlayTables_, realMoneyAtTables_);
+}
+
+}  // namespace Tessel

@@ -1,0 +1,8 @@
+#include <herald/messages/MessageOperations.h>
+#include <herald/messages/PrivateGameEvents.h>
+
+namespace Tessel {
+
+std::wstring PGPlayerReqToJoinGame::toDebugString() const { return format(L"[PGPlayerReqToJoinGame: %s]", player_); }
+
+}  // namespace Tessel

@@ -1,0 +1,10 @@
+#include <herald/messages/RebuyRequests.h>
+#include <herald/messages/RequestOperations.h>
+
+namespace Tessel {
+
+std::wstring TournamentRebuyReplyMsg::toDebugString() const {
+  return format(L"[OldTournamentRebuyReplyMsg: TourId=%s, Accept=%s]", tourId_, accept_);
+}
+
+}  // namespace Tessel

@@ -1,0 +1,31 @@
+#pragma once
+#include <herald/platform/keystone/StreamObjects.h>
+
+#include <string>
+
+namespace Tessel {
+
+class FieldSink;
+
+/// Base of every request to a server. A request travels in a frame: its id, the number of bytes of its body (both
+/// signed 16-bit, the four header bytes not counted), then the body.
+class HERALD_API ServerMessage : public StreamWritableObject {
+ public:
+  ~ServerMessage() override;
+  /// Appends the whole frame. A request that cannot be written (a text that cannot be encoded, a body of 32,768 bytes
+  /// or more) is reported, answers false and leaves the stream as it was.
+  bool write(ByteStream& out) const override = 0;
+  /// One line of text for traces.
+  virtual std::wstring toDebugString() const = 0;
+  /// Tells the sink every field of the body, in wire order.
+  virtual void describe(FieldSink& sink) const = 0;
+
+ protected:
+  ServerMessage() = default;
+  ServerMessage(const ServerMessage&) = default;
+  ServerMessage(ServerMessage&&) = default;
+  ServerMessage& operator=(const ServerMessage&) = default;
+  ServerMessage& operator=(ServerMessage&&) = default;
+};
+
+}  // namespace Tessel

@@ -1,0 +1,7 @@
+#include <herald/messages/ServerMessageData.h>
+
+namespace Tessel {
+
+ServerMessageData::~ServerMessageData() = default;
+
+}  // namespace Tessel

@@ -1,0 +1,10 @@
+#include <herald/messages/info_objects/AmountInfo.h>
+#include <herald/messages/info_objects/RecordOperations.h>
+
+namespace Tessel {
+
+AmountInfo::AmountInfo(ByteStream& in) { AmountInfo::read(in); }
+
+std::wstring AmountInfo::toDebugString() const { return format(L"[AmountInfo: amount=%li]", amount_); }
+
+}  // namespace Tessel

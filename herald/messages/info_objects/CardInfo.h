@@ -1,0 +1,50 @@
+#pragma once
+#include <herald/messages/info_objects/WireRecord.h>
+#include <herald/platform/keystone/Card.h>
+
+#include <cstdint>
+
+namespace Tessel {
+
+/// A card and whose it is. A community card belongs to player -1 at seat -1.
+class HERALD_API CardInfo : public ReadableRecord<CardInfo> {
+ public:
+  CardInfo() = default;
+  CardInfo(int playerId, int seat, const Card& card);
+
+  /// On the wire the colors -1 to 3 are hidden, diamonds, hearts, clubs, spades; the number -1 is hidden, 1 an ace, 2
+  /// to 13 a two to a king. Any other color or number is hidden.
+  static Card createCard(int color, int number);
+
+  int getPlayerId() const { return playerId_; }
+  int getSeat() const { return seat_; }
+  Card getCard() const { return createCard(color_, number_); }
+  bool isHidden() const { return getCard().isHidden(); }
+  bool isTableCard() const { return playerId_ == -1 && seat_ == -1; }
+
+  /// Becomes a hidden card of player 0 at that seat.
+  void setHiddenCard(int seat);
+  /// Becomes a community card, each of the 52 as likely as the others.
+  void setRandomCommunityCard();
+
+  std::wstring toDebugString() const override;
+
+  template <class Self, class Fields>
+  static void wire(Self& self, Fields& fields) {
+    fields("playerId", self.playerId_);
+    fields("seat", self.seat_);
+    fields("color", self.color_);
+    fields("number", self.number_);
+    fields.onRead(self, &CardInfo::checkCard);
+  }
+
+ private:
+  bool checkCard() const;
+
+  std::int32_t playerId_ = -1;
+  std::int32_t seat_ = -1;
+  std::int8_t color_ = -1;
+  std::int8_t number_ = -1;
+};
+
+}  // namespace Tessel

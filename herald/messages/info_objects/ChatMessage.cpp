@@ -1,0 +1,10 @@
+#include <herald/messages/info_objects/ChatMessage.h>
+#include <herald/messages/info_objects/RecordOperations.h>
+
+namespace Tessel {
+
+std::wstring ChatMessage::toDebugString() const {
+  return format(L"[ChatMessage: Nickname=%s, Message=%s]", nickname_, message_);
+}
+
+}  // namespace Tessel

@@ -1,0 +1,10 @@
+#include <herald/messages/info_objects/ClientSatOutInfo.h>
+#include <herald/messages/info_objects/RecordOperations.h>
+
+namespace Tessel {
+
+std::wstring ClientSatOutInfo::toDebugString() const {
+  return format(L"[ClientSatOutInfo: PlayerID: %d, Status: %d]", playerId_, status_);
+}
+
+}  // namespace Tessel

@@ -1,0 +1,10 @@
+#include <herald/messages/info_objects/EnteredTour.h>
+#include <herald/messages/info_objects/RecordOperations.h>
+
+namespace Tessel {
+
+std::wstring EnteredTour::toDebugString() const {
+  return format(L"[EnteredTour: iTournamentId=%d, iNodeId=%d, iName=%s]", tournamentId_, nodeId_, name_);
+}
+
+}  // namespace Tessel

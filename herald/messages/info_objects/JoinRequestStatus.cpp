@@ -1,0 +1,10 @@
+#include <herald/messages/info_objects/JoinRequestStatus.h>
+#include <herald/messages/info_objects/RecordOperations.h>
+
+namespace Tessel {
+
+WritableReadableInfo::~WritableReadableInfo() = default;
+
+std::wstring JoinRequestStatus::toDebugString() const { return format(L"[JoinRequestStatus: Status: %d]", status_); }
+
+}  // namespace Tessel

@@ -1,0 +1,10 @@
+#include <herald/messages/info_objects/PigIDInfo.h>
+#include <herald/messages/info_objects/RecordOperations.h>
+
+namespace Tessel {
+
+std::wstring PigIDInfo::toDebugString() const {
+  return format(L"[PigIDInfo: NickName=%s, GameId=%d]", nickName_, gameId_);
+}
+
+}  // namespace Tessel

@@ -1,0 +1,12 @@
+#include <herald/messages/info_objects/InfoListOperations.h>
+#include <herald/messages/info_objects/PingInfoInfo.h>
+
+namespace Tessel {
+
+std::wstring PingInfoInfo::toDebugString() const {
+  return format(L"[PingInfoInfo: nick=%s, ping=%d, money at table=%s]", nick_, ping_, moneyAtTable_);
+}
+
+template class InfoList<PingInfoInfo>;
+
+}  // namespace Tessel

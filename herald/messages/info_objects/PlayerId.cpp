@@ -1,0 +1,8 @@
+#include <herald/messages/info_objects/PlayerId.h>
+#include <herald/messages/info_objects/RecordOperations.h>
+
+namespace Tessel {
+
+std::wstring PlayerId::toDebugString() const { return format(L"[PlayerId: id=%d, seat=%d]", id_, seat_); }
+
+}  // namespace Tessel

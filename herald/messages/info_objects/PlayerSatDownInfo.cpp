@@ -1,0 +1,10 @@
+#include <herald/messages/info_objects/PlayerSatDownInfo.h>
+#include <herald/messages/info_objects/RecordOperations.h>
+
+namespace Tessel {
+
+std::wstring PlayerSatDownInfo::toDebugString() const {
+  return format(L"[PlayerSatDownInfo: %s, Seat: %d]", player_, seat_);
+}
+
+}  // namespace Tessel

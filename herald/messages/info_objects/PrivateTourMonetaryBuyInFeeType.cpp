@@ -1,0 +1,22 @@
+#include <herald/messages/info_objects/InfoListOperations.h>
+#include <herald/messages/info_objects/PrivateTourListText.h>
+#include <herald/messages/info_objects/PrivateTourMonetaryBuyInFeeType.h>
+
+namespace Tessel {
+
+PrivateTourMonetaryBuyInFeeType::PrivateTourMonetaryBuyInFeeType(ByteStream& in) {
+  PrivateTourMonetaryBuyInFeeType::read(in);
+}
+
+std::wstring PrivateTourMonetaryBuyInFeeType::toDebugString() const {
+  return format(L"[PrivateTourMonetaryBuyInFeeType: iMonetaryUnitId=%d, iBuyInFeeList=%s]", monetaryUnitId_,
+                buyInFees_);
+}
+
+std::wstring PrivateTourMonetaryBuyInFeeTypeList::toDebugString() const {
+  return format(PRIVATE_TOUR_LIST_TEXT, L"PrivateTourMonetaryBuyInFeeTypeList");
+}
+
+template class InfoList<PrivateTourMonetaryBuyInFeeType>;
+
+}  // namespace Tessel

@@ -1,0 +1,33 @@
+#pragma once
+#include <herald/platform/keystone/StreamObjects.h>
+
+#include <memory>
+#include <string>
+
+namespace Tessel {
+
+class FieldSink;
+
+/// Base of every record that the client reads. A record is a value: it owns all that it holds, and one thread at a time
+/// uses it.
+class HERALD_API ReadableObjectInfo : public StreamReadableObject {
+ public:
+  ~ReadableObjectInfo() override;
+  /// A new copy of the record's own class. The caller owns it.
+  virtual ReadableObjectInfo* clone() const = 0;
+  /// One line of text for traces.
+  virtual std::wstring toDebugString() const = 0;
+  /// Tells the sink every field, in wire order.
+  virtual void describe(FieldSink& sink) const = 0;
+
+  std::unique_ptr<ReadableObjectInfo> cloneOwned() const { return std::unique_ptr<ReadableObjectInfo>(clone()); }
+
+ protected:
+  ReadableObjectInfo() = default;
+  ReadableObjectInfo(const ReadableObjectInfo&) = default;
+  ReadableObjectInfo(ReadableObjectInfo&&) = default;
+  ReadableObjectInfo& operator=(const ReadableObjectInfo&) = default;
+  ReadableObjectInfo& operator=(ReadableObjectInfo&&) = default;
+};
+
+}  // namespace Tessel

@@ -1,0 +1,10 @@
+#include <herald/messages/info_objects/RecordOperations.h>
+#include <herald/messages/info_objects/ReserveMoneyReplyInfo.h>
+
+namespace Tessel {
+
+std::wstring ReserveMoneyReplyInfo::toDebugString() const {
+  return format(L"[ReserveMoneyReplyInfo: ReserveStatus: %d, PlayerInGameInfo:%s]", reserveStatus_, player_);
+}
+
+}  // namespace Tessel

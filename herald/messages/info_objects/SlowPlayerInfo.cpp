@@ -1,0 +1,10 @@
+#include <herald/messages/info_objects/RecordOperations.h>
+#include <herald/messages/info_objects/SlowPlayerInfo.h>
+
+namespace Tessel {
+
+std::wstring SlowPlayerInfo::toDebugString() const {
+  return format(L"[SlowPlayerInfo: PlayerId: %li, Status: %d]", playerId_, status_);
+}
+
+}  // namespace Tessel

@@ -1,0 +1,116 @@
+#pragma once
+#include <herald/messages/info_objects/AmountInfo.h>
+#include <herald/messages/info_objects/TsString.h>
+#include <herald/platform/keystone/Money.h>
+#include <herald/platform/keystone/TsArray.h>
+#include <herald/platform/tableau/GameType.h>
+#include <herald/platform/tableau/LimitType.h>
+
+#include <array>
+#include <cstdint>
+#include <vector>
+
+namespace Tessel {
+
+/// What the table information window shows. The numbered amounts, flags and values are the server's; they stand in the
+/// order in which they travel. It is never sent: `write` writes nothing and answers false.
+class HERALD_API TableInformation : public ReadableRecord<TableInformation, ReadableWritableInfo> {
+ public:
+  /// Two amounts and two flags of one betting round.
+  class HERALD_API RoundBetInfo {
+   public:
+    RoundBetInfo() = default;
+    RoundBetInfo(const Money& amount1, const Money& amount2, bool flagA, bool flagB);
+
+    Money getAmount1() const { return {amount1_.getAmount(), monetaryUnitId_}; }
+    Money getAmount2() const { return {amount2_.getAmount(), monetaryUnitId_}; }
+    bool getFlagA() const { return flagA_; }
+    bool getFlagB() const { return flagB_; }
+
+    template <class Self, class Fields>
+    static void wire(Self& self, Fields& fields) {
+      fields("amount1", self.amount1_);
+      fields("amount2", self.amount2_);
+      fields("flagA", self.flagA_);
+      fields("flagB", self.flagB_);
+    }
+
+   private:
+    friend class TableInformation;
+
+    AmountInfo amount1_;
+    AmountInfo amount2_;
+    bool flagA_ = false;
+    bool flagB_ = false;
+    int monetaryUnitId_ = -1;
+  };
+
+  TableInformation() = default;
+  /// The limit type is kept as given; only `read` derives it. All amounts are in the table's monetary unit.
+  TableInformation(const TsString& tableName, const TsString& description, const GameType* gameType,
+                   const LimitType* limitType, int monetaryUnitId, const Money& money1, const Money& money3,
+                   const Money& money4, const Money& money5, const Money& money2, const Money& money6,
+                   const TsArray<Money>& amounts, const TsArray<RoundBetInfo>& rounds, int value1, int nrAmounts,
+                   int nrRounds, int value2, bool flagA, bool flagB);
+
+  std::wstring getTableName() const { return tableName_.getString(); }
+  std::wstring getDescription() const { return description_.getString(); }
+  /// Never null; it lives as long as the process, as the limit type does.
+  const GameType* getGameType() const;
+  const LimitType* getLimitType() const;
+  int getMonetaryUnitId() const { return monetaryUnitId_; }
+  /// The money 1 to 6; another number throws `OutOfBoundsException`.
+  Money getMoney(int number) const;
+  TsArray<Money> getAmounts() const;
+  TsArray<RoundBetInfo> getRounds() const { return TsArray<RoundBetInfo>(rounds_); }
+  int getValue1() const { return value1_; }
+  int getValue2() const { return value2_; }
+  bool getFlagA() const { return flagA_; }
+  bool getFlagB() const { return flagB_; }
+
+  bool write(ByteStream& out) const override;
+  /// Empty.
+  std::wstring toDebugString() const override;
+
+  template <class Self, class Fields>
+  static void wire(Self& self, Fields& fields) {
+    fields("tableName", self.tableName_);
+    fields("gameType", self.gameType_);
+    fields("monetaryUnitId", self.monetaryUnitId_);
+    fields("money1", self.money_[0]);
+    fields("flagA", self.flagA_);
+    fields("flagB", self.flagB_);
+    fields("value1", self.value1_);
+    fields.template countedKeeping<std::int32_t>("amounts", self.nrAmounts_, self.amounts_);
+    fields("money2", self.money_[1]);
+    fields("value2", self.value2_);
+    fields("description", self.description_);
+    fields("money3", self.money_[2]);
+    fields("money4", self.money_[3]);
+    fields("money5", self.money_[4]);
+    fields("money6", self.money_[5]);
+    fields.template countedKeeping<std::int32_t>("rounds", self.nrRounds_, self.rounds_);
+    fields.onRead(self, &TableInformation::finishRead);
+  }
+
+ private:
+  bool finishRead();
+  LimitTypes::AllowedLimitType deriveLimitType() const;
+
+  TsString tableName_;
+  std::int8_t gameType_ = -1;
+  std::int16_t monetaryUnitId_ = -1;
+  std::array<AmountInfo, 6> money_;
+  bool flagA_ = false;
+  bool flagB_ = false;
+  std::int32_t value1_ = -1;
+  std::int32_t nrAmounts_ = 0;
+  std::vector<AmountInfo> amounts_;
+  std::int32_t value2_ = -1;
+  TsString description_;
+  std::int32_t nrRounds_ = 0;
+  std::vector<RoundBetInfo> rounds_;
+  LimitTypes::AllowedLimitType limitType_ = LimitTypes::AllowedLimitType::UNKNOWN;
+};
+
+}  // namespace Tessel

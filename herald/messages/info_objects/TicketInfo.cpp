@@ -1,0 +1,11 @@
+#include <herald/messages/info_objects/RecordOperations.h>
+#include <herald/messages/info_objects/TicketInfo.h>
+
+namespace Tessel {
+
+std::wstring TicketInfo::toDebugString() const {
+  return format(L"[TicketInfo: Description=%s, BuyIn=%s, Fee=%s, IsRestricted=%d]", description_, buyIn_, fee_,
+                isRestricted_);
+}
+
+}  // namespace Tessel

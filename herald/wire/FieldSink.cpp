@@ -1,0 +1,7 @@
+#include <herald/wire/FieldSink.h>
+
+namespace Tessel {
+
+FieldSink::~FieldSink() = default;
+
+}  // namespace Tessel

@@ -1,0 +1,56 @@
+#pragma once
+#include <herald/platform/keystone/Export.h>
+
+#include <cstdint>
+#include <string_view>
+
+namespace Tessel {
+
+/// How a value travels. NONE is the count of a list that the bytes do not carry: an earlier field gives it.
+enum class WireType : std::uint8_t { NONE, BOOL, BYTE, SHORT, INT, INT64, STRING };
+
+/// The bytes that a number of this type takes; 0 for NONE and STRING.
+constexpr int widthOf(WireType type) {
+  switch (type) {
+    case WireType::BOOL:
+    case WireType::BYTE:
+      return 1;
+    case WireType::SHORT:
+      return 2;
+    case WireType::INT:
+      return 4;
+    case WireType::INT64:
+      return 8;
+    default:
+      return 0;
+  }
+}
+
+/// Is told every field of a message or record in wire order (`describe`). Names and texts are valid during the call
+/// only. The fields of an array have empty names.
+class HERALD_API FieldSink {
+ public:
+  virtual ~FieldSink();
+
+  /// A bool comes as 0 or 1.
+  virtual void number(std::string_view name, WireType type, std::int64_t value) = 0;
+  /// A secret text, such as a password, is not for logs and listings.
+  virtual void text(std::string_view name, std::string_view utf8, bool secret) = 0;
+
+  /// A nested record; its fields follow only when the answer is true, `endRecord` in any case.
+  virtual bool beginRecord(std::string_view name, std::string_view type) = 0;
+  virtual void endRecord() = 0;
+
+  /// A list: its count, the type in which the count travels, then the items. A count below zero has no items.
+  virtual void beginList(std::string_view name, WireType countType, std::int64_t count) = 0;
+  virtual void endList() = 0;
+
+  /// A field that travels only under a condition on earlier fields; it follows only when it is present.
+  virtual void beginConditional(bool present) = 0;
+  virtual void endConditional() = 0;
+
+  /// A sink that answers true is told the layout instead of the values: one item per list, and every conditional field.
+  virtual bool wantsLayout() const { return false; }
+};
+
+}  // namespace Tessel

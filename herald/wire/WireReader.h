@@ -1,0 +1,172 @@
+#pragma once
+#include <herald/platform/keystone/ByteStream.h>
+#include <herald/wire/WireSizer.h>
+#include <herald/wire/WireTypes.h>
+
+#include <stdexcept>
+
+namespace Tessel {
+
+/// An array record failed to read: throws `KeystoneException` "Failed to read info object.".
+[[noreturn]] HERALD_API void throwInfoObjectFailed();
+[[noreturn]] HERALD_API void throwCountPastEnd(std::int64_t count, std::size_t unread);
+[[noreturn]] HERALD_API void throwNegativeCount(std::int64_t count);
+
+/// Reads a layout from a stream. Once a field has failed, the fields after it are passed over and keep their values.
+class WireReader {
+ public:
+  explicit WireReader(ByteStream& in) : in_(in) {}
+
+  /// Whether every field so far could be read.
+  bool succeeded() const { return succeeded_; }
+
+  /// A number; a record, whose own failure is the layout's; or a text, whose failure has been reported and does not
+  /// count.
+  template <class T>
+  void operator()(const char*, T& field) {
+    if (succeeded_) read(field);
+  }
+
+  /// A record whose own failure does not count.
+  template <class T>
+  void ignoring(const char*, T& record) {
+    if (!succeeded_) return;
+    read(record);
+    succeeded_ = true;
+  }
+
+  /// A text without which the record cannot be read.
+  template <WireText T>
+  void required(const char*, T& text) {
+    if (succeeded_) succeeded_ = text.T::read(in_);
+  }
+
+  /// A text that is read also after a field has failed.
+  template <WireText T>
+  void always(const char*, T& text) {
+    text.T::read(in_);
+  }
+
+  /// A text that is not for logs.
+  template <WireText T>
+  void secret(const char* name, T& text) {
+    (*this)(name, text);
+  }
+
+  /// A field that travels only under a condition on fields already read; otherwise it keeps its value.
+  template <class T>
+  void onlyIf(bool present, const char* name, T& field) {
+    if (present) (*this)(name, field);
+  }
+
+  /// A count, then that many items, whose own failures do not count. A negative count is an invalid argument.
+  template <WireNumber Count, class List>
+  void counted(const char*, List& list) {
+    if (!succeeded_) return;
+    const Count count = take<Count>();
+    if (count < 0) throwNegativeCount(count);
+    readItems(list, count);
+  }
+
+  /// The same, but a negative count means no items.
+  template <WireNumber Count, class List>
+  void countedOrNone(const char*, List& list) {
+    if (succeeded_) readItems(list, take<Count>());
+  }
+
+  /// The same, and the count is kept as it came.
+  template <WireNumber Count, class List>
+  void countedKeeping(const char*, Count& count, List& list) {
+    if (!succeeded_) return;
+    count = take<Count>();
+    readItems(list, count);
+  }
+
+  /// A count, then that many records, all of which must read: one that does not throws "Failed to read info object.". A
+  /// negative count means no records.
+  template <WireNumber Count, class List>
+  void infoArray(const char*, List& list) {
+    if (!succeeded_) return;
+    resize(list, take<Count>());
+    for (auto& record : list) {
+      read(record);
+      if (!succeeded_) throwInfoObjectFailed();
+    }
+  }
+
+  /// Items without a count of their own: an earlier field says how many. None when that is negative.
+  template <class List>
+  void items(const char*, List& list, std::int32_t count) {
+    if (succeeded_) readItems(list, count);
+  }
+
+  /// The same, for items that travel only under a condition on fields already read.
+  template <class List>
+  void itemsIf(bool present, const char* name, List& list, std::int32_t count) {
+    items(name, list, present ? count : 0);
+  }
+
+  /// A rule that only reading applies: an operation of the record that answers whether the read goes on.
+  template <class Self, class Rule>
+  void onRead(Self& self, Rule rule) {
+    if (succeeded_) succeeded_ = (self.*rule)();
+  }
+
+  /// The read fails where nothing is left.
+  void requireMore() { succeeded_ = succeeded_ && hasMore(); }
+  bool hasMore() const { return !in_.eos(); }
+
+ private:
+  template <WireNumber T>
+  T take() {
+    T value;
+    in_ >> value;
+    return value;
+  }
+
+  template <class T>
+  void read(T& field) {
+    if constexpr (WireNumber<T>)
+      in_ >> field;
+    else if constexpr (WireText<T>)
+      field.T::read(in_);
+    else if constexpr (WireLayout<T>)
+      T::wire(field, *this);
+    else
+      succeeded_ = field.T::read(in_);
+  }
+
+  // What a count claims is held against the bytes that are there before memory is taken for it: every 32-bit count, and
+  // the others where the list would be large.
+  template <class List, WireNumber Count>
+  void resize(List& list, Count count) {
+    using Item = typename List::value_type;
+    constexpr std::size_t MODEST_SIZE = 65536;
+    if (count < 0) count = 0;
+    const auto size = static_cast<std::size_t>(count);
+    if ((sizeof(Count) > 2 || size * sizeof(Item) > MODEST_SIZE) && size > in_.unreadCount() / minimumWireSize<Item>())
+      throwCountPastEnd(count, in_.unreadCount());
+    list.clear();
+    if constexpr (requires { list.setSize(0); })
+      list.setSize(static_cast<int>(count));
+    else
+      list.resize(size);
+  }
+
+  template <class List, WireNumber Count>
+  void readItems(List& list, Count count) {
+    resize(list, count);
+    for (auto&& item : list) {
+      if constexpr (std::same_as<typename List::value_type, bool>)
+        item = take<bool>();
+      else
+        read(item);
+      succeeded_ = true;
+    }
+  }
+
+  ByteStream& in_;
+  bool succeeded_ = true;
+};
+
+}  // namespace Tessel

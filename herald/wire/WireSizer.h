@@ -1,0 +1,56 @@
+#pragma once
+#include <herald/wire/LayoutVisitor.h>
+
+#include <cstddef>
+
+namespace Tessel {
+
+/// Counts the bytes of a layout.
+class WireSizer : public LayoutVisitor<WireSizer> {
+ public:
+  std::size_t size() const { return size_; }
+
+ private:
+  friend LayoutVisitor;
+
+  template <class T>
+  void field(std::string_view, const T& value) {
+    if constexpr (WireNumber<T>)
+      size_ += sizeof(T);
+    else if constexpr (requires { value.size(); })
+      size_ += static_cast<std::size_t>(value.T::size());
+    else
+      T::wire(value, *this);
+  }
+
+  template <class T>
+  void secretText(std::string_view name, const T& text) {
+    field(name, text);
+  }
+
+  template <class Count, class List>
+  void list(std::string_view name, std::int64_t, const List& list) {
+    size_ += sizeof(Count);
+    itemsOf(name, list);
+  }
+
+  template <class List>
+  void itemsOf(std::string_view name, const List& list) {
+    for (const auto& item : list) field<typename List::value_type>(name, item);
+  }
+
+  bool enter(bool present) { return present; }
+  void leave() {}
+
+  std::size_t size_ = 0;
+};
+
+/// The fewest bytes that a T can take: those of a default T, whose texts and lists are empty.
+template <class T>
+std::size_t minimumWireSize() {
+  WireSizer sizer;
+  sizer("", T());
+  return sizer.size();
+}
+
+}  // namespace Tessel

@@ -1,0 +1,449 @@
+#include <gtest/gtest.h>
+#include <herald/messages/AccountEvents.h>
+#include <herald/messages/BettingEvents.h>
+#include <herald/messages/CardEvents.h>
+#include <herald/messages/ChatEvents.h>
+#include <herald/messages/JoinEvents.h>
+#include <herald/messages/LobbyEvents.h>
+#include <herald/messages/PrivateGameEvents.h>
+#include <herald/messages/SeatEvents.h>
+#include <herald/messages/TableStateEvents.h>
+#include <herald/messages/info_objects/ObjectInfo.h>
+#include <herald/messages/info_objects/TesselBool.h>
+#include <herald/messages/info_objects/TesselIntBitMask.h>
+#include <herald/platform/keystone/ByteStream.h>
+#include <herald/platform/keystone/Exceptions.h>
+#include <herald/platform/keystone/UTFEncoder.h>
+#include <tests/support/Golden.h>
+#include <tests/support/Notation.h>
+
+#include <climits>
+#include <functional>
+#include <memory>
+#include <string>
+#include <type_traits>
+#include <typeinfo>
+
+namespace Tessel {
+
+namespace {
+
+std::string shown(const Money& money) {
+  return std::to_string(money.getAmount()) + '/' + std::to_string(money.getMonetaryUnitId());
+}
+std::string shown(const std::wstring& text) { return UTFEncoder::toUTF8(text); }
+std::string shown(const Card& card) { return UTFEncoder::toUTF8(card.toCString()); }
+
+template <class T>
+requires std::is_arithmetic_v<T> || std::is_enum_v<T> std::string shown(T value) {
+  return std::to_string(static_cast<long long>(value));
+}
+
+template <class List>
+requires requires(const List& list) {
+  list.at(0);
+  list.size();
+}
+std::string shown(const List& list) {
+  std::string text = "(";
+  for (int i = 0; i < list.size(); ++i) text += (i == 0 ? "" : " ") + std::to_string(list.at(i));
+  return text + ')';
+}
+
+/// What accessors answer, separated by blanks; money as amount/unit.
+template <class... Values>
+std::string told(const Values&... values) {
+  std::string text;
+  ((text += (text.empty() ? "" : " ") + shown(values)), ...);
+  return text;
+}
+
+template <class T>
+T read(std::span<const std::uint8_t> bytes) {
+  ByteStream in(bytes);
+  T object;
+  EXPECT_TRUE(object.read(in));
+  return object;
+}
+
+template <class T>
+T read(std::string_view notation) {
+  return read<T>(toBytes(notation));
+}
+
+/// The first golden case of the class.
+template <class T>
+T golden() {
+  return read<T>(goldenCase(typeName<T>()).bytes);
+}
+
+/// The accessor of a message answers the record of its body.
+template <class Message, class Record>
+void expectCarries(Record (Message::*record)() const) {
+  const auto message = golden<Message>();
+  EXPECT_EQ(valuesOf((message.*record)()), valuesOf(message)) << typeName<Message>();
+}
+
+template <class Record>
+void expectTold(std::string_view expected, const std::function<std::string(const Record&)>& accessors) {
+  EXPECT_EQ(accessors(golden<Record>()), expected) << typeName<Record>();
+}
+
+TEST(Accessors, OfMessagesAnswerTheirRecord) {
+  expectCarries(&ClientSatIn::getInfo);
+  expectCarries(&ClientSatOut::getInfo);
+  expectCarries(&ClientSlowPlayer::getSlowPlayerInfo);
+  expectCarries(&PlayerSatDown::getInfo);
+  expectCarries(&SitDownReply::getInfo);
+  expectCarries(&ReserveMoneyReply::getReplyInfo);
+  expectCarries(&PlayerJoined::getPlayerInGameInfo);
+  expectCarries(&PlayerLeft::getPigIDInfo);
+  expectCarries(&PlayerStandUp::getPigIDInfo);
+  expectCarries(&ClientNewRound::getNewRoundInfo);
+  expectCarries(&ClientSetDealerToken::getDealer);
+  expectCarries(&ClientBetBlindReq::getBetRequestInfo);
+  expectCarries(&ClientBetAnteReq::getBetRequestInfo);
+  expectCarries(&ClientBetReq::getBetRequestInfo);
+  expectCarries(&ClientHurryUp::getPlayer);
+  expectCarries(&ClientFoldDone::getPlayer);
+  expectCarries(&ClientCheckDone::getPlayer);
+  expectCarries(&ClientAllInDone::getPlayer);
+  expectCarries(&ClientCallDone::getCreditInfo);
+  expectCarries(&ClientBetDone::getCreditInfo);
+  expectCarries(&ClientBetDeadDone::getCreditInfo);
+  expectCarries(&ClientBetsToPot::getCreditInfo);
+  expectCarries(&ClientTotalRake::getCreditInfo);
+  expectCarries(&ClientCards::getDealtCardsInfo);
+  expectCarries(&ClientMuckCardsReq::getPlayer);
+  expectCarries(&ClientMuckLosingCardsReq::getPlayer);
+  expectCarries(&ClientShowCardsReq::getPlayer);
+  expectCarries(&ClientShowAllCards::getCardsInfo);
+  expectCarries(&ClientShowdownHandValue::getHandValueInfo);
+  expectCarries(&ClientChangeCards::getChangeCardsInfo);
+  expectCarries(&ClientVoteCast::getInfo);
+  expectCarries(&GameStateInfoMsg::getGameStateInfo);
+  expectCarries(&ClientTableInfo::getTableInformation);
+  expectCarries(&ConnectOk::getSelfPlayerInfo);
+  expectCarries(&TreeReply::getRoot);
+  expectCarries(&LobbyInfoMsg::getLobbyInfo);
+  expectCarries(&PingInfo::getPingInfoList);
+  expectCarries(&JoinLobbyFailed::getJoinRequest);
+  expectCarries(&JoinGameFailed::getJoinRequest);
+  expectCarries(&JoinWaitingFail::getJoinRequest);
+  expectCarries(&JoinWaitingOk::getLobbyInfo);
+  expectCarries(&JoinAvailable::getPokerGameInfo);
+  expectCarries(&MonetaryInfoMsg::getMonetaryInfo);
+  expectCarries(&ClientChatMsg::getChatMessage);
+  expectCarries(&ClientGlobalChatMsg::getChatMessage);
+  expectCarries(&VIPInfo::getVIPList);
+  expectCarries(&PGGamesSettingsList::getSettingsList);
+  expectCarries(&PGCreateGameReply::getPokerGameInfo);
+}
+
+TEST(Accessors, OfMessagesAnswerTheirFields) {
+  EXPECT_EQ(golden<ClientWaitingToSitIn>().getPlayerId(), -28);
+  EXPECT_EQ(golden<ClientSlowPlayerBack>().getPlayerId(), 2000);
+  EXPECT_EQ(golden<ClientPlayerTimeout>().getPlayerID(), -45);
+  EXPECT_EQ(golden<PlayerIGLeft>().getPlayerId(), -1919);
+  EXPECT_EQ(golden<AllInProtectionStatusMsg>().getStatus(), -51);
+  EXPECT_EQ(golden<VIPInfo>().getSize(), 2);
+  EXPECT_EQ(golden<VIPLoginAnnounce>().getVIPName(), L"Dvo\u0159\u00E1k");
+  EXPECT_EQ(golden<AdminNotificationMsg>().getNotification().getText(), L"Wartung 10% um 5 ]");
+  EXPECT_EQ(golden<ClientExtendedWelcomeMessage>().getMessage(), L"V\u00E4lkommen");
+  EXPECT_EQ(golden<PGPlayerReqTimedOut>().getId(), -502);
+  EXPECT_EQ(golden<PGPromotedModerator>().getId(), 503);
+  expectTold<ClientWin>("2 0 900 5 -1", [](auto& m) {
+    const auto& pots = m.getPots();
+    return told(pots.size(), pots[0].getPotType().getValue(), pots[0].getCreditInfo().getAmount(),
+                pots[0].getHandValue().getHandValue(), pots[1].getCreditInfo().getAmount());
+  });
+  expectTold<AllInProbabilityResults>("2 7 -40 8 60", [](auto& m) {
+    const auto& pairs = m.getProbabilities();
+    return told(pairs.size(), pairs[0].first, pairs[0].second, pairs[1].first, pairs[1].second);
+  });
+  expectTold<ClientOpenTableReq>("2 1001 -1002", [](auto& m) {
+    return told(m.numInfos(), m.getPokerGameInfo(0).getId(), m.getPokerGameInfo(1).getId());
+  });
+  expectTold<ShowCashierOk>("760 -761 9223372036854775807",
+                            [](auto& m) { return told(m.getAccountBalance(), m.getMinBuyIn(), m.getMaxBuyIn()); });
+  expectTold<AccountBalanceInfoMsg>("2 -822/821 824/-823", [](auto& m) {
+    return told(m.getAccountBalanceCount(), m.getAccountBalance(0), m.getAccountBalance(1));
+  });
+  EXPECT_EQ(told(golden<AccountBalanceInfoUpdateRelative>().getAccountBalance()), "-831/830");
+  EXPECT_EQ(told(golden<AccountBalanceInfoUpdateAbsolute>().getAccountBalance()), "841/-840");
+  expectTold<GameListUpdate>("2 1001 (421 -422) (423 -424) (6 -9)", [](auto& m) {
+    return told(m.getNumberOfAddedInfos(), m.getPokerGameInfo(0).getId(), m.getRemovedGamesIds(),
+                m.getChangedGamesIds(), m.getChangedSeats());
+  });
+}
+
+TEST(Accessors, OfRecordsAnswerTheirFields) {
+  expectTold<PlayerInfo>("-71 Ólafur Þórshöfn 72 -73 lið 0 1", [](auto& r) {
+    return told(r.getId(), r.getNickName(), r.getCity(), r.getPing(), r.getGameID(), r.getTeamName(), r.hasSalonPage(),
+                r.isVIP());
+  });
+  expectTold<PlayerInGameInfo>(
+      "7 1 0 -1500/3", [](auto& r) { return told(r.getId(), r.hasSalonPage(), r.isVIP(), r.getMoneyAtTable()); });
+  expectTold<PlayerId>("1 -2", [](auto& r) { return told(r.getId(), r.getSeat()); });
+  expectTold<PlayerStateInfo>("-3 7 -30 1 0", [](auto& r) {
+    return told(r.getSeat(), r.getPlayerInGameInfo().getId(), r.getBetsNotInPot(), r.isSittingIn(), r.isSlow());
+  });
+  expectTold<CreditInfo>("6 -7", [](auto& r) { return told(r.getSeat(), r.getAmount()); });
+  expectTold<CardInfo>("-8 9 Qs 0 0", [](auto& r) {
+    return told(r.getPlayerId(), r.getSeat(), r.getCard(), r.isHidden(), r.isTableCard());
+  });
+  expectTold<CardsInfo>("2 1 0 1 Ad 1 0 0", [](auto& r) {
+    return told(r.getNrCards(), r.hasWinningCards(), r.isWinningCard(0), r.isWinningCard(1), r.getCardInfo(0).getCard(),
+                r.doesPlayerHaveCards(3), r.doesPlayerHaveCards(2), r.isCommunityCards());
+  });
+  expectTold<ChangeCardsInfo>("-11 12 -13",
+                              [](auto& r) { return told(r.getSeat(), r.getTimeLeft(), r.getTotalTime()); });
+  expectTold<DiscardCardsInfo>("-14 3 (15 -16 17)", [](auto& r) {
+    TsArray<int> cards;
+    r.getDiscardedCards(cards);
+    return told(r.getSeat(), r.getNrDiscardedCards(), cards);
+  });
+  expectTold<HandValueInfo>("18 -19 8 2 -22 (21 -22) ", [](auto& r) {
+    return told(r.getPlayerSeat(), r.getHandType(), r.getHandValue(), r.getNumberOfSpecifiedCards(),
+                r.getSpecifiedCard(1), r.getSpecifiedCards(), r.getHandValueString());
+  });
+  expectTold<PlayerActionsInfo>("-31 -32 2 2 33 -34 0", [](auto& r) {
+    return told(r.getSeat(), r.getCheckCallValue(), r.getBetType(), r.getNrBets(), r.getBet(0), r.getBet(1),
+                r.isFirstBetPlaced());
+  });
+  expectTold<BetRequestInfo>("2 -38 1 0 2 -42 -44 45", [](auto& r) {
+    return told(r.getNrReqSeats(), r.getReqSeat(1), r.isSeatRequested(37), r.isSeatRequested(38),
+                r.getNrPlayerActionsInfos(), r.getPlayerActionsInfo(1)->getSeat(), r.getTotalTime(), r.getTimeLeft());
+  });
+  expectTold<NewRoundInfo>(
+      "-46 2 0 1", [](auto& r) { return told(r.getHandNumber(), r.getNrOfPlayers(), r.getPlayer(0), r.getPlayer(1)); });
+  expectTold<PokerGameStateInfo>("48 -73 74 -75 2 -79 1 0 2 -80 62 81", [](auto& r) {
+    return told(r.getPokerRulesInfo().getMonetaryUnitId(), r.getDealerSeat(), r.getPotValue(),
+                r.getCurrentBettingRound(), r.getNrPlayers(), r.getPlayerState(1).getBetsNotInPot(),
+                r.isPlayerAtTable(-9), r.isPlayerAtTable(9), r.getCardsInfo().getNrCards(), r.getHandId(),
+                r.getPokerGameInfo().getId(), r.getCurrentRake());
+  });
+  expectTold<TableInformation>(
+      "Bord text 1", [](auto& r) { return told(r.getTableName(), r.getDescription(), r.getGameType() != nullptr); });
+  expectTold<PlayerSatDownInfo>("7 -100", [](auto& r) { return told(r.getPlayerInGameInfo().getId(), r.getSeat()); });
+  expectTold<ReserveMoneyReplyInfo>(
+      "0 0 7", [](auto& r) { return told(r.isStatusFail(), r.isStatusOk(), r.getPlayerInGameInfo().getId()); });
+  expectTold<ClientSatInInfo>("-102 1 0",
+                              [](auto& r) { return told(r.getPlayerID(), r.isNewSitIn(), r.isResittingIn()); });
+  expectTold<SlowPlayerInfo>("-105 106", [](auto& r) { return told(r.getPlayerID(), r.getStatus()); });
+  expectTold<VoteCastInfo>("107 -108 109",
+                           [](auto& r) { return told(r.getPlayerID(), r.getStatus(), r.getNumberOfVotes()); });
+  expectTold<JoinRequest>("-110 111", [](auto& r) { return told(r.getGameID(), r.getPlayerID()); });
+  expectTold<GameInfo>("-125 Ï 126 -127 128 -129 130 -131 1", [](auto& r) {
+    return told(r.getId(), r.getName(), r.getNrPlayers(), r.getMaxNrPlayers(), r.getNrPlayersWatching(),
+                r.getMonetaryUnitId(), r.getPort(), r.getType(), r.isFull());
+  });
+  expectTold<PokerRulesInfo>("-49/48 50/48 2 51/48 -52/48 53/48 -54/48 55/48 -56/48 57/48 -59/58 61/-60", [](auto& r) {
+    return told(r.getMaxRake(), r.getBigBlind(), r.getNrChipStackValues(), r.getChipStackValue(0),
+                r.getChipStackValue(1), r.getMinChipValue(), r.getAnte(), r.getSmallBlind(), r.getSmallBet(),
+                r.getBigBet(), r.getTournamentBuyIn(), r.getTournamentFee());
+  });
+  expectTold<PokerLobbyInfo>("-142 2 -9 1 Ólafur Foyer 48 144 -145 146", [](auto& r) {
+    return told(r.getId(), r.getNrPlayers(), r.getPlayers()[1].getId(), r.getNrPlayersWaiting(),
+                r.getPlayersWaiting()[0].getNickName(), r.getName(), r.getPokerRules().getMonetaryUnitId(),
+                r.getAveragePot(), r.getHandsPerHour(), r.getPlayersFlop());
+  });
+  expectTold<PingInfoInfo>("Åke -151 -153/152",
+                           [](auto& r) { return told(r.getNick(), r.getPing(), r.getMoneyAtTable()); });
+  expectTold<CurrencyInfo>("SEK kr   :- -170 17", [](auto& r) {
+    return told(r.getId(), r.getPrefix(), r.getPostfix(), r.getCutOffAmount(), r.getSortingPriority());
+  });
+}
+
+TEST(Accessors, OfDefaultRecords) {
+  EXPECT_EQ(told(TesselInt().getValue(), TesselByte().getIntValue(), TesselBool().getValue()), "-1 -1 0");
+  EXPECT_EQ(told(MoneyInfo().getMoney(), InfoList<TesselInt>().getNrInfos()), "0/0 0");
+  EXPECT_EQ(told(PlayerId().getId(), PlayerId().getSeat(), PlayerActionsInfo().getBetType()), "0 0 3");
+  EXPECT_EQ(valuesOf(JoinGameFailed()), "-1 -1");
+  const PlayerInGameInfo player(1, L"n", L"c", Money(5, 6), 2, 3, L"t");
+  EXPECT_EQ(valuesOf(player), "1 \"n\" \"c\" 2 3 0 \"t\" 6 5");
+}
+
+TEST(CardInfo, MakesCardsOfWireColorsAndNumbers) {
+  const int colors[] = {4, 1, 2, 0, 3};
+  for (int color = -2; color <= 4; ++color) {
+    for (int number = -2; number <= 14; ++number) {
+      SCOPED_TRACE(told(color, number));
+      const bool isColor = color >= -1 && color <= 3;
+      const int type = number == 1 ? 12 : number >= 2 && number <= 13 ? number - 2 : 13;
+      const Card card = CardInfo::createCard(color, number);
+      EXPECT_EQ(told(card.getColor(), card.getType()), told(isColor ? colors[color + 1] : 4, type));
+
+      ByteStream in(toBytes("00000007 00000002"));
+      in << static_cast<std::int8_t>(color) << static_cast<std::int8_t>(number);
+      const bool isCard = isColor && number >= -1 && number != 0 && number <= 13;
+      try {
+        EXPECT_TRUE(CardInfo().read(in) && isCard);
+      } catch (const OutOfBoundsException& failure) {
+        EXPECT_FALSE(isCard);
+        EXPECT_EQ(failure.getFile(), L"messages/info_objects/CardInfo");
+        EXPECT_EQ(failure.getName(), isColor ? L"number" : L"color");
+        EXPECT_EQ(told(failure.getLowest(), failure.getHighest(), failure.getIndex()),
+                  isColor ? told(-1, 13, number) : told(-1, 3, color));
+      }
+      EXPECT_TRUE(in.eos());
+    }
+  }
+}
+
+TEST(CardsInfo, IsACommunitySetWhenNoCardIsAPlayers) {
+  CardInfo card(1, 2, Card(Card::Color{2}, Card::Type{12}));
+  EXPECT_EQ(told(card.getCard(), CardsInfo({card}).isCommunityCards()), "Ah 0");
+  card.setHiddenCard(5);
+  EXPECT_EQ(told(card.getPlayerId(), card.getSeat(), card.isHidden()), "0 5 1");
+  card.setRandomCommunityCard();
+  EXPECT_EQ(told(card.isHidden(), CardsInfo({card}).isCommunityCards(), CardsInfo().isCommunityCards()), "0 1 1");
+}
+
+TEST(DealtCardsInfo, KnowsTheDealTypesZeroToNine) {
+  for (int type = -128; type <= 127; ++type) {
+    ByteStream in;
+    in << static_cast<std::int8_t>(type) << 0 << false;
+    EXPECT_EQ(told(read<DealtCardsInfo>(in.bytes()).getDealType().getValue()),
+              told(type >= 0 && type <= 9 ? type : -1));
+  }
+}
+
+TEST(PlayerActionsInfo, MayWhatItsBitsSay) {
+  for (int bit = 0; bit < 6; ++bit) {
+    bool flags[6] = {};
+    flags[bit] = true;
+    const PlayerActionsInfo built(3, flags[0], flags[1], flags[2], flags[3], flags[4], flags[5], 7, true, BetType{1},
+                                  {});
+    EXPECT_EQ(told(built.mayFold(), built.mayCheckFold(), built.mayCheckCall(), built.mayCallAny(), built.mayBetRaise(),
+                   built.mayBetRaiseAny()),
+              told(flags[0], flags[1], flags[2], flags[3], flags[4], flags[5]));
+    ByteStream in;
+    in << std::int8_t{3} << static_cast<std::int8_t>(1 << bit) << std::int64_t{7} << std::int8_t{-12} << std::int8_t{0};
+    auto actions = read<PlayerActionsInfo>(in.bytes());
+    EXPECT_FALSE(actions == built);
+    actions.setFirstBetPlaced(true);
+    EXPECT_TRUE(actions == built);
+  }
+  for (int code = -128; code <= 127; ++code)
+    EXPECT_EQ(told(PlayerActionsInfo::convertBetType(code)), told(code >= -13 && code <= -11 ? -11 - code : 3));
+}
+
+TEST(BetRequestInfo, AnswersTheFirstRecordOfASeat) {
+  const auto request = read<BetRequestInfo>("00 02 05 00 0000000000000001 00 00 05 00 0000000000000002 00 00 01 02");
+  EXPECT_EQ(request.getPlayerActionsInfoForSeat(5), request.getPlayerActionsInfo(0));
+  EXPECT_EQ(request.getPlayerActionsInfoForSeat(6), nullptr);
+}
+
+TEST(TableRecords, TestTheirCodes) {
+  for (int code = -1; code <= 13; ++code) {
+    SCOPED_TRACE(code);
+    ByteStream in;
+    in << static_cast<std::int8_t>(code) << std::int16_t{0} << std::int64_t{2};
+    const auto reply = read<SitDownReplyInfo>(in.bytes());
+    const bool hasMoney = code >= 6 && code <= 8;
+    EXPECT_EQ(told(reply.isSatDown(), reply.isRefusedDueToMoney(), reply.isRefusedDueToSystem(), reply.getMoney()),
+              told(code == 0, hasMoney, code == 12, Money(hasMoney ? 2 : 0, 0)));
+    const auto discard = read<ClientDiscardCards>(in.bytes());
+    EXPECT_EQ(told(discard.cardsWasChanged(), discard.cardsWasChangedAutomatically()), told(code != 1, code == 2));
+    const auto join = read<JoinRequestStatus>(in.bytes());
+    EXPECT_EQ(told(join.isOk(), join.isRefusedDenied(), join.isRefusedNoAnswer()),
+              told(code == 0, code == 1, code == 2));
+    ByteStream behindPlayer(toBytes("00000007"));
+    behindPlayer << static_cast<std::int8_t>(code);
+    const auto satOut = read<ClientSatOutInfo>(behindPlayer.bytes());
+    EXPECT_EQ(told(satOut.getPlayerID(), satOut.isNotEnoughFunds(), satOut.isWillBeSatOut()),
+              told(7, code == 0, code == 1));
+  }
+}
+
+// Per round, bit 0 is its flag A and bit 1 its flag B.
+TEST(TableInformation, DerivesItsLimitType) {
+  const struct {
+    bool tableFlag;
+    std::vector<int> rounds;
+    int limitType;
+  } cases[] = {{false, {}, 0},     {true, {}, 3},  {true, {0, 1}, 1}, {false, {2}, 2}, {false, {1, 2}, 2},
+               {false, {2, 1}, 2}, {true, {3}, 2}, {true, {0}, 3},    {false, {0}, 0}, {false, {0, 1, 0}, 1}};
+  for (const auto& [tableFlag, rounds, limitType] : cases) {
+    ByteStream in(toBytes("0000 00 0007 0000000000000001"));
+    in << tableFlag << true << 2 << 0 << std::int64_t{3} << 4;
+    in.append(toBytes("0000 0000000000000005 0000000000000006 0000000000000007 0000000000000008"));
+    in << static_cast<std::int32_t>(rounds.size());
+    for (const int flags : rounds)
+      in << std::int64_t{9} << std::int64_t{10} << ((flags & 1) != 0) << ((flags & 2) != 0);
+    EXPECT_EQ(told(read<TableInformation>(in.bytes()).getLimitType()->getValue()), told(limitType));
+  }
+  ByteStream out;
+  EXPECT_FALSE(TableInformation().write(out));
+  EXPECT_EQ(out.GetSize(), 0);
+}
+
+TEST(InfoArray, IsReadWholeOrThrows) {
+  ByteStream in(toBytes("00000001 00000002"));
+  EXPECT_EQ(readInfoArray<TesselInt>(in, 0), nullptr);
+  const std::unique_ptr<TesselInt[]> numbers(readInfoArray<TesselInt>(in, 2));
+  EXPECT_EQ(told(numbers[0].getValue(), numbers[1].getValue(), infoArraySize(numbers.get(), 2)), "1 2 8");
+  EXPECT_THROW(infoArraySize(numbers.get(), 0), KeystoneException);
+  EXPECT_THROW(infoArraySize<TesselInt>(nullptr, 1), KeystoneException);
+  ByteStream noPlayers(toBytes("00000001 00000000"));
+  EXPECT_THROW(readInfoArray<NewRoundInfo>(noPlayers, 1), KeystoneException);
+}
+
+TEST(IndexedAccessors, RefuseWhatLiesOutside) {
+  const auto cards = golden<CardsInfo>();
+  const auto request = golden<BetRequestInfo>();
+  const auto actions = golden<PlayerActionsInfo>();
+  const auto hand = golden<HandValueInfo>();
+  const auto state = golden<PokerGameStateInfo>();
+  const auto rules = golden<PokerRulesInfo>();
+  const auto node = golden<TreeNodeInfo>();
+  const auto list = read<InfoList<TesselInt>>("0001 00000005");
+  const auto none = read<InfoList<TesselInt>>("FFFE");
+  const auto vector = golden<InfoVector>();
+  TesselIntBitMask mask(0);
+  const struct {
+    std::wstring source;
+    int count;
+    std::function<void(int)> get;
+  } cases[] = {
+      {L"CardsInfo", 2, [&](int i) { cards.getCardInfo(i); }},
+      {L"CardsInfo", 2, [&](int i) { cards.isWinningCard(i); }},
+      {L"BetRequestInfo", 2, [&](int i) { request.getReqSeat(i); }},
+      {L"BetRequestInfo", 2, [&](int i) { request.getPlayerActionsInfo(i); }},
+      {L"PlayerActionsInfo", 2, [&](int i) { actions.getBet(i); }},
+      {L"HandValueInfo", 2, [&](int i) { hand.getSpecifiedCard(i); }},
+      {L"PokerGameStateInfo", 2, [&](int i) { state.getPlayerState(i); }},
+      {L"PokerRulesInfo", 2, [&](int i) { rules.getChipStackValue(i); }},
+      {L"TreeNodeInfo", 2, [&](int i) { node.getSubNode(i); }},
+      {L"InfoList", 1, [&](int i) { list[i]; }},
+      {L"InfoList", 0, [&](int i) { none[i]; }},
+      {L"InfoVector", 2, [&](int i) { vector[i]; }},
+      {L"TesselIntBitMask", 32, [&](int i) { mask.setBit(i); }},
+      {L"TesselIntBitMask", 32, [&](int i) { EXPECT_TRUE(mask.getBit(i)); }},
+  };
+  for (const auto& [source, count, get] : cases) {
+    SCOPED_TRACE(UTFEncoder::toUTF8(source));
+    for (int i = 0; i < count; ++i) EXPECT_NO_THROW(get(i));
+    for (const int i : {-1, count, INT_MIN, INT_MAX}) {
+      try {
+        get(i);
+        ADD_FAILURE() << i;
+      } catch (const OutOfBoundsException& failure) {
+        EXPECT_EQ(failure.getFile(), L"messages/info_objects/" + source);
+        EXPECT_EQ(told(failure.getLowest(), failure.getHighest(), failure.getIndex()), told(0, count - 1, i));
+        if (source.starts_with(L"Info")) {
+          EXPECT_EQ(failure.getName(), L"i");
+        }
+        if (count == 32) {
+          EXPECT_EQ(failure.getName(), L"bitNumber");
+        }
+      }
+    }
+  }
+  EXPECT_EQ(mask.getMask(), -1);
+}
+
+}  // namespace
+
+}  // namespace Tessel

@@ -1,0 +1,420 @@
+#include <gtest/gtest.h>
+#include <herald/messages/info_objects/AccountBalanceInfo.h>
+#include <herald/messages/info_objects/ChatMessage.h>
+#include <herald/messages/info_objects/GameIdInfo.h>
+#include <herald/messages/info_objects/GameInfoList.h>
+#include <herald/messages/info_objects/MonetaryInfo.h>
+#include <herald/messages/info_objects/PGSettingsInfoList.h>
+#include <herald/messages/info_objects/PingInfoInfo.h>
+#include <herald/messages/info_objects/PokerGameInfo.h>
+#include <herald/messages/info_objects/PokerLobbyInfo.h>
+#include <herald/messages/info_objects/SettingsInfo.h>
+#include <herald/messages/info_objects/TreeNodeInfoList.h>
+#include <herald/messages/info_objects/VIPList.h>
+#include <herald/platform/keystone/Exceptions.h>
+#include <herald/platform/keystone/MoneyModel.h>
+#include <herald/wire/FieldSink.h>
+#include <tests/support/AllocationCount.h>
+#include <tests/support/RecordingSink.h>
+#include <tests/support/WireBytes.h>
+
+#include <algorithm>
+#include <memory>
+#include <sstream>
+#include <typeinfo>
+
+namespace Tessel {
+namespace {
+
+using namespace WireBytes;
+
+ByteStream& appendBadText(ByteStream& out) { return out << number16(1) << byte(0xFF); }
+
+ByteStream& appendPlayer(ByteStream& out, int id) {
+  return out << id << L"nick" << L"city" << 9 << 8 << byte(0) << L"";
+}
+
+ByteStream& appendGame(ByteStream& out, int id, int monetaryUnitId) {
+  return out << id << L"game" << number16(2) << number16(9) << number16(4) << number16(monetaryUnitId) << 80 << 6;
+}
+
+ByteStream& appendPokerGame(ByteStream& out, int monetaryUnitId, int tableFlags) {
+  return appendGame(out, 7, monetaryUnitId) << byte(1) << byte(2) << number64(100) << number64(200) << byte(tableFlags);
+}
+
+template <class Record>
+std::wstring failureOf(ByteStream in) {
+  Record record;
+  try {
+    record.read(in);
+  } catch (const KVRException& failure) {
+    return failure.getText();
+  }
+  return L"";
+}
+
+// ---- The lobby tree
+
+void appendNode(ByteStream& out, int id, int nrSubNodes, int nodeType = 0, int lobbyType = 1) {
+  out << number16(id) << number16(3) << L"name" << number16(80) << byte(nodeType) << byte(lobbyType)
+      << byte(nrSubNodes);
+}
+
+// 1 above 5, 2 and 7; 2 above 6 and another 7.
+TreeNodeInfo smallTree() {
+  ByteStream out;
+  const int nodes[][2] = {{1, 3}, {5, 0}, {2, 2}, {6, 0}, {7, 0}, {7, 0}};
+  for (const auto& [id, nrSubNodes] : nodes) appendNode(out, id, nrSubNodes);
+  return decode<TreeNodeInfo>(out);
+}
+
+// Prints "1:2(5:0() 2:0() )" for node 1 above 5 and 2.
+class TreePrinter : public FieldSink {
+ public:
+  explicit TreePrinter(int refusedRecord = 0, bool wantsLayout = false)
+      : refusedRecord_(refusedRecord), wantsLayout_(wantsLayout) {}
+
+  void number(std::string_view name, WireType, std::int64_t value) override {
+    if (name == "id") text_ << value;
+  }
+  void text(std::string_view, std::string_view, bool) override {}
+  bool beginRecord(std::string_view, std::string_view type) override {
+    EXPECT_EQ(type, "TreeNodeInfo");
+    return ++records_ != refusedRecord_;
+  }
+  void endRecord() override { text_ << ' '; }
+  void beginList(std::string_view, WireType countType, std::int64_t count) override {
+    EXPECT_EQ(countType, WireType::BYTE);
+    text_ << ':' << count << '(';
+  }
+  void endList() override { text_ << ')'; }
+  void beginConditional(bool) override {}
+  void endConditional() override {}
+  bool wantsLayout() const override { return wantsLayout_; }
+
+  int records() const { return records_; }
+  std::string text() const { return text_.str(); }
+
+ private:
+  std::ostringstream text_;
+  int records_ = 0;
+  int refusedRecord_;
+  bool wantsLayout_;
+};
+
+TEST(TreeNodeInfo, AnswersForItsBits) {
+  ByteStream out;
+  appendNode(out, 1, -128, 0b101, 3);
+  const auto node = decode<TreeNodeInfo>(out);
+  EXPECT_TRUE(node.isSubscribable());
+  EXPECT_FALSE(node.wasLastSelectedNode());
+  EXPECT_TRUE(node.isPrivate());
+  EXPECT_TRUE(node.isTournamentNode());
+  EXPECT_FALSE(node.isRingGameNode());
+  EXPECT_EQ(node.getNumSubNodes(), 0);
+  EXPECT_EQ(TreeNodeInfo(1, 2, true, 3).toDebugString(),
+            L"[TreeNodeInfo - iId=1, iNameId=2, iDefaultName=, iPort=3, iNodeType=1, iLobbyType=-1");
+}
+
+TEST(TreeNodeInfo, FindsTheFirstLeafOnly) {
+  const TreeNodeInfo tree = smallTree();
+  EXPECT_EQ(tree.getNodeInTree(7), &tree.getSubNode(1).getSubNode(1));
+  EXPECT_EQ(tree.getNodeInTree(5), &tree.getSubNode(0));
+  EXPECT_EQ(tree.getNodeInTree(1), nullptr);
+  EXPECT_EQ(tree.getNodeInTree(2), nullptr);
+  EXPECT_THROW(tree.getSubNode(3), OutOfBoundsException);
+}
+
+TEST(TreeNodeInfo, DescribesItself) {
+  struct {
+    TreePrinter sink;
+    std::string text;
+  } cases[] = {
+      {TreePrinter(), "1:3(5:0() 2:2(6:0() 7:0() ) 7:0() )"},
+      {TreePrinter(2), "1:3(5:0()  7:0() )"},
+      {TreePrinter(0, true), "1:3( )"},
+  };
+  const TreeNodeInfo tree = smallTree();
+  for (auto& [sink, text] : cases) {
+    tree.describe(sink);
+    EXPECT_EQ(sink.text(), text);
+  }
+}
+
+TEST(TreeNodeInfo, IsAssignedFromItsOwnSubNode) {
+  TreeNodeInfo tree = smallTree();
+  tree = tree.getSubNode(1);
+  EXPECT_EQ(tree.getId(), 2);
+  EXPECT_EQ(tree.getNumSubNodes(), 2);
+  ByteStream leaf;
+  appendNode(leaf, 4, 0);
+  tree.read(leaf);
+  EXPECT_EQ(tree.getNumSubNodes(), 0);
+}
+
+TEST(TreeNodeInfo, NeedsNoStackForItsDepth) {
+  constexpr int LEVELS = 150'000;
+  ByteStream out;
+  for (int level = 0; level < LEVELS; ++level) {
+    appendNode(out, 1, 2);
+    appendNode(out, 2, 0);
+  }
+  appendNode(out, 3, 0);
+
+  const auto tree = decode<TreeNodeInfo>(out);
+  TreeNodeInfo copy(tree);
+  copy = tree;
+  EXPECT_EQ(copy.size(), out.GetSize());
+  const TreeNodeInfo* leaf = copy.getNodeInTree(3);
+  ASSERT_NE(leaf, nullptr);
+  EXPECT_EQ(leaf->getNumSubNodes(), 0);
+  TreePrinter sink;
+  copy.describe(sink);
+  EXPECT_EQ(sink.records(), 2 * LEVELS);
+}
+
+TEST(TreeNodeInfo, AllocatesPerGroupOfSubNodes) {
+  ByteStream out;
+  appendNode(out, 1, 100);
+  for (int id = 0; id < 100; ++id) appendNode(out, id, 0);
+  TreeNodeInfo tree;
+  const int before = allocationCount();
+  tree.read(out);
+  EXPECT_LE(allocationCount() - before, 5);
+}
+
+TEST(TreeNodeInfo, RefusesMoreSubNodesThanTheBytesCanHold) {
+  ByteStream out;
+  for (int level = 0; level < 50'000; ++level) appendNode(out, 1, 127);
+  TreeNodeInfo tree;
+  EXPECT_THROW(tree.read(out), KeystoneException);
+  EXPECT_GT(out.unreadCount(), out.bytes().size() * 9 / 10);
+}
+
+TEST(TypedVectors, RefuseElementsOfAnotherClass) {
+  ByteStream out;
+  out << 1 << L"com.tessel.shared.info.TreeNodeInfo";
+  appendNode(out, 5, 0);
+  const auto nodes = decode<TreeNodeInfoList>(out);
+  EXPECT_EQ(nodes.getTreeNodeInfo(0).getId(), 5);
+  EXPECT_THROW(nodes.getTreeNodeInfo(1), OutOfBoundsException);
+  EXPECT_THROW(decode<VIPList>(out).getVIPPlayer(0), std::bad_cast);
+  EXPECT_THROW(decode<PGSettingsInfoList>(out).getGameInfo(0), std::bad_cast);
+  const auto copy = nodes.cloneOwned();
+  EXPECT_EQ(dynamic_cast<const TreeNodeInfoList&>(*copy).getTreeNodeInfo(0).getId(), 5);
+}
+
+// ---- Games and their lobbies
+
+TEST(PokerGameInfo, TakesItsFlagsApart) {
+  ByteStream out;
+  const auto game = decode<PokerGameInfo>(appendPokerGame(out, 3, 0x2E));
+  const PokerGameInfo same(game, game.getGameType(), game.getLimitType(), 100, 200, true, true,
+                           PokerGameInfo::GameSpeed{2}, false, true);
+  for (const PokerGameInfo& info : {game, same}) {
+    EXPECT_EQ(info.getGameSpeed(), PokerGameInfo::GameSpeed{2});
+    EXPECT_TRUE(info.isPrivate());
+    EXPECT_TRUE(info.isModerated());
+    EXPECT_FALSE(info.iIsBootable());
+    EXPECT_TRUE(info.isNetworkTable());
+    EXPECT_EQ(info.getGameType()->getValue(), GameTypes::AllowedGameType::OMAHA);
+    EXPECT_EQ(info.getLimitType()->getValue(), LimitTypes::AllowedLimitType::NO_LIMIT);
+    EXPECT_EQ(std::unique_ptr<LobbyNodeInterface>(info.cloneNode())->getLobbyNodeId(), 7);
+  }
+}
+
+TEST(PokerGameInfo, IsNotReadBehindABadName) {
+  const WithRecordingSink reports;
+  ByteStream out;
+  appendBadText(out << 7) << number64(1) << number64(1) << number64(1) << number64(1) << number64(1);
+  PokerGameInfo game;
+  EXPECT_FALSE(game.read(out));
+  EXPECT_EQ(out.unreadCount(), 40u);
+  EXPECT_EQ(game.getNrPlayers(), -1);
+}
+
+TEST(GameInfo, IsWrittenWithAWideMonetaryUnit) {
+  ByteStream in, out, expected;
+  auto game = decode<GameInfo>(appendGame(in, 7, -3));
+  EXPECT_FALSE(game.isFull());
+  game.setNrPlayers(9);
+  EXPECT_TRUE(game.isFull());
+  EXPECT_TRUE(game.write(out));
+  expected << 7 << L"game" << number16(9) << number16(9) << number16(4) << -3 << 80 << 6;
+  EXPECT_TRUE(std::ranges::equal(out.bytes(), expected.bytes()));
+}
+
+TEST(LobbyInfo, ThrowsWhereTheStreamMayNotEnd) {
+  ByteStream out;
+  std::size_t ends[3];
+  out << 5;
+  ends[0] = out.bytes().size();
+  appendPlayer(out << byte(1), 11) << number16(3) << number64(500);
+  ends[1] = out.bytes().size();
+  appendPlayer(out << byte(1), 12);
+  ends[2] = out.bytes().size();
+  for (const std::size_t end : ends)
+    EXPECT_EQ(failureOf<LobbyInfo>(ByteStream(out.bytes().first(end))), L"Error when reading bytestream.");
+  const auto lobby = decode<LobbyInfo>(out << L"name");
+  EXPECT_EQ(lobby.getPlayers()[0].getMoneyAtTable(), Money(500, 3));
+  EXPECT_EQ(lobby.toDebugString(),
+            L"[LobbyInfo: id=5, nr players=1, players=[PlayerInGameInfo: ], nr players waiting=1, players waiting="
+                + lobby.getPlayersWaiting()[0].toDebugString() + L", name=name]");
+}
+
+TEST(LobbyInfo, ToleratesABadNameButNoBadPlayer) {
+  const WithRecordingSink reports;
+  ByteStream out, badPlayer;
+  EXPECT_EQ(decode<LobbyInfo>(appendBadText(out << 5 << byte(-1) << byte(0))).getNrPlayers(), 0);
+  appendBadText(badPlayer << 5 << byte(1) << 11);
+  EXPECT_EQ(failureOf<PokerLobbyInfo>(badPlayer), L"Failed to read info object.");
+}
+
+TEST(PokerRulesInfo, KeepsItsChipStackValues) {
+  ByteStream start;
+  start << L"Hold" << number16(2) << number64(1) << number64(20);
+  const auto rulesWith = [&start](std::initializer_list<int> values, int count) {
+    ByteStream out(start);
+    out << count;
+    for (const int value : values) out << number64(value);
+    for (int amount = 3; amount <= 7; ++amount) out << number64(amount);
+    return out << Money(8, 4) << Money(9, 5);
+  };
+  const auto rules = decode<PokerRulesInfo>(rulesWith({10, 11}, 2));
+  EXPECT_EQ(rules.getChipStackValue(1), Money(11, 2));
+  EXPECT_THROW(rules.getChipStackValue(2), OutOfBoundsException);
+  EXPECT_EQ(rules.getTournamentFee(), Money(9, 5));
+  EXPECT_EQ(rules.toDebugString(),
+            L"[PokerRulesInfo: description=Hold, monetary unit: 2, big blind=20, nr chip stack values=2, chip stack "
+            L"values=[AmountInfo: amount=10], [AmountInfo: amount=11], min chip value=[AmountInfo: amount=3], "
+            L"ante=[AmountInfo: amount=4], small blind=[AmountInfo: amount=5], small bet=[AmountInfo: amount=6], big "
+            L"bet=[AmountInfo: amount=7], tourBuyIn=[MoneyInfo: 8 ], tourFee=[MoneyInfo: 9 ]]");
+  EXPECT_EQ(decode<PokerRulesInfo>(rulesWith({}, -1)).getNrChipStackValues(), 0);
+  EXPECT_NE(failureOf<PokerRulesInfo>(rulesWith({}, 100'000'000)), L"");
+}
+
+TEST(GameLists, PrintAndCountTheirItems) {
+  ByteStream games, ids;
+  games << number16(2);
+  const auto list = decode<GameInfoList>(appendGame(appendGame(games, 1, 0), 2, 0));
+  EXPECT_EQ(list.toDebugString(), L"[GameInfoList:" + list[0].toDebugString() + L", " + list[1].toDebugString() + L"]");
+  const auto gameIds = decode<GameIdInfo>(ids << 2 << 40 << 41);
+  EXPECT_EQ(gameIds.getId(1), 41);
+  EXPECT_THROW(gameIds.getId(2), OutOfBoundsException);
+}
+
+// ---- Players
+
+TEST(VIPPlayerInfo, ReadsAGameIdForGamesOnly) {
+  ByteStream atGame, elsewhere;
+  atGame << 1 << true << byte(1) << 77 << 0 << L"vip" << 4;
+  elsewhere << 1 << false << byte(0) << 0 << L"vip" << 4;
+  EXPECT_EQ(decode<VIPPlayerInfo>(atGame).getGameId(), 77);
+  const auto player = decode<VIPPlayerInfo>(elsewhere);
+  EXPECT_EQ(player.getGameId(), -1);
+  EXPECT_EQ(player.toDebugString(), L"[ VIPPlayerInfo - PlayerId=1, VIPType=0 iIsPlaying=0, iName=vip, iVipStatus=4]");
+}
+
+TEST(VIPPlayerInfo, HasAnIconPerBit) {
+  const struct {
+    int vipType;
+    TsArray<int> icons;
+  } cases[] = {{0, {1}}, {0b1010, {1, 3}}, {0b100, {2}}, {0b10001, {1}}, {-1, {1, 2, 3}}};
+  for (const auto& [vipType, icons] : cases) {
+    ByteStream out;
+    out << 1 << false << byte(0) << vipType << L"" << 0;
+    EXPECT_EQ(decode<VIPPlayerInfo>(out).getVIPIcons(), icons) << vipType;
+  }
+}
+
+TEST(PingInfoInfo, IsNotWritten) {
+  ByteStream out;
+  EXPECT_FALSE(PingInfoInfo().write(out));
+  EXPECT_EQ(out.GetSize(), 0);
+}
+
+TEST(ChatMessage, KnowsTheOperatorsPrefix) {
+  EXPECT_EQ(ChatMessage::getPrefixChar(L"^Hello"), ChatMessage::ADMIN_PREFIX_CHAR);
+  EXPECT_EQ(ChatMessage::getPrefixChar(L""), L"");
+}
+
+TEST(SettingsInfo, SetsAndClearsFlags) {
+  ByteStream in;
+  auto settings = decode<SettingsInfo>(in << number64(0x1'0000'0003));
+  EXPECT_TRUE(settings.isSet(SettingsInfo::SOUND | SettingsInfo::SHOW_HALO));
+  EXPECT_FALSE(settings.isSet(SettingsInfo::SHOW_HALO));
+  settings.set(SettingsInfo::SHOW_CASH);
+  EXPECT_EQ(settings.getUINTFormat(), 0x1'0000'0007);
+  settings.unSet(SettingsInfo::SOUND);
+  EXPECT_EQ(settings.getUINTFormat(), 6);
+}
+
+// ---- Money
+
+class MonetaryRecords : public testing::Test {
+ protected:
+  ~MonetaryRecords() override { MoneyModel::getInstance().replaceAll({}, {}, {}); }
+
+  // Unit 3 is real dollars, unit 4 play chips without a currency.
+  static MonetaryInfo monetaryInfo() {
+    ByteStream out;
+    out << byte(2) << number16(3) << L"real" << L"USD" << number16(4) << L"play" << L"none";
+    out << byte(2) << L"real" << L"Real" << byte(4) << byte(1) << L"play" << L"Play" << byte(3) << byte(2);
+    out << byte(1) << L"USD" << L"$" << L" US" << number16(100) << byte(1);
+    return decode<MonetaryInfo>(out);
+  }
+
+  static PGSettingsInfo settingsIn(int monetaryUnitId) {
+    ByteStream out;
+    out << 1 << byte(0) << byte(2) << L"text" << number16(monetaryUnitId) << number64(5) << number64(10);
+    return decode<PGSettingsInfo>(out);
+  }
+};
+
+TEST_F(MonetaryRecords, FillTheMoneyModel) {
+  ByteStream out;
+  const auto game = decode<PokerGameInfo>(appendPokerGame(out, 3, 0));
+  EXPECT_EQ(game.getLimits().toString(), L"100/200");
+  monetaryInfo().applyTo(MoneyModel::getInstance());
+  EXPECT_EQ(Money(5, 3).toString(), L"$5 US");
+  EXPECT_EQ(Money(5, 4).toString(), L"5");
+  EXPECT_EQ(game.getLimits().toString(), L"$100 US/$200 US");
+  EXPECT_TRUE(settingsIn(3).isRealMoneyGame());
+  EXPECT_FALSE(settingsIn(4).isRealMoneyGame());
+  EXPECT_EQ(settingsIn(3).toDebugString(),
+            L"[PGSettingsInfo: settingId=1, gameType=0, description=text, limit=$5 US/$10 US]");
+}
+
+TEST_F(MonetaryRecords, DoNotGuessTheTypeOfAnUnknownUnit) {
+  try {
+    settingsIn(3).isRealMoneyGame();
+    FAIL();
+  } catch (const KeystoneException& failure) {
+    EXPECT_EQ(failure.getText(), L"Cannot find Monetary Type (id=3)");
+    EXPECT_EQ(failure.getFile(), L"messages/info_objects/PGSettingsInfo");
+  }
+}
+
+TEST_F(MonetaryRecords, AnswerDefaultsBeyondTheirEnds) {
+  const MonetaryInfo info = monetaryInfo();
+  EXPECT_EQ(info.getMonetaryUnitInfo(1).getId(), 4);
+  EXPECT_EQ(info.getMonetaryUnitInfo(2).getId(), -1);
+  EXPECT_TRUE(info.getMonetaryTypeInfo(1).isRefillable());
+  EXPECT_EQ(info.getMonetaryTypeInfo(-1).getName(), L"");
+  EXPECT_EQ(info.getCurrencyInfo(1).getCutOffAmount(), -1);
+  EXPECT_EQ(info.toDebugString(),
+            L"[MonetaryInfo:[MonetaryUnitInfo: Id=3, MonetaryTypeId=real, CurrencyId=USD], [MonetaryUnitInfo: Id=4, "
+            L"MonetaryTypeId=play, CurrencyId=none], [MonetaryTypeInfo: Id=real, Name=Real, Properties=4, "
+            L"SortingPriority:1], [MonetaryTypeInfo: Id=play, Name=Play, Properties=3, SortingPriority:2], "
+            L"[CurrencyInfo: Id=USD, Prefix=$, Postfix= US, CutOffAmount:100, SortingPriority:1]]");
+
+  ByteStream out, none;
+  const auto balances = decode<AccountBalanceInfo>(out << byte(2) << Money(1, 3) << Money(2, 4));
+  EXPECT_EQ(balances.getAccountBalance(1), Money(2, 4));
+  EXPECT_EQ(balances.getAccountBalance(5), Money());
+  EXPECT_EQ(balances.toDebugString(), L"[AccountBalanceInfo:[MoneyInfo: 1 ], [MoneyInfo: 2 ]]");
+  EXPECT_EQ(decode<AccountBalanceInfo>(none << byte(-1)).getAccountBalanceCount(), 0);
+}
+
+}  // namespace
+}  // namespace Tessel
