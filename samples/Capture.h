@@ -1,0 +1,54 @@
+#pragma once
+#include <herald/messages/ServerMessage.h>
+#include <herald/wire/WireTypes.h>
+#include <pcap/pcap.h>
+
+#include <cstdint>
+#include <filesystem>
+#include <memory>
+#include <string_view>
+
+#include "Body.h"
+
+namespace Samples {
+
+/// One client's connection, recorded packet by packet into a classic pcap file. Its clock starts at a fixed date and
+/// moves a little with each packet, so that a play gives the same bytes at every run.
+class Capture {
+ public:
+  /// Replaces the file; throws `std::runtime_error` when it cannot be written.
+  explicit Capture(const std::filesystem::path& file);
+
+  /// The server sends a message, under the id (the first, where there are two) that the message's class has.
+  template <class Message>
+  void server(const Body& body = {}) {
+    server(idOf(Tessel::typeName<Message>()), body);
+  }
+  void server(int id, const Body& body);
+
+  /// The client sends a request.
+  void client(const Tessel::ServerMessage& request);
+
+  /// Nothing is sent for so many milliseconds.
+  void pause(std::int64_t milliseconds) { milliseconds_ += milliseconds; }
+  /// Milliseconds since 1970.
+  std::int64_t now() const { return milliseconds_; }
+
+  /// Completes the file; throws `std::runtime_error` when something could not be written.
+  void close();
+
+ private:
+  struct Close {
+    void operator()(pcap_t* handle) const { pcap_close(handle); }
+    void operator()(pcap_dumper_t* dumper) const { pcap_dump_close(dumper); }
+  };
+
+  static int idOf(std::string_view messageClass);
+  void write(const Body& packet);
+
+  std::unique_ptr<pcap_t, Close> handle_;
+  std::unique_ptr<pcap_dumper_t, Close> dumper_;
+  std::int64_t milliseconds_ = 1'709'924'400'000;  // 8 March 2024, 19:00 UTC
+};
+
+}  // namespace Samples

@@ -1,0 +1,244 @@
+#include <gtest/gtest.h>
+#include <herald/inspect/Catalogue.h>
+#include <herald/messages/ClientMessageTable.h>
+#include <herald/messages/ServerMessageTable.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <fstream>
+#include <nlohmann/json.hpp>
+#include <regex>
+#include <sstream>
+
+namespace Tessel {
+namespace {
+
+using namespace std::string_literals;
+
+const std::string BET_DONE = "\0\0\x0C\0\0\0\x07\x03\0\0\0\0\0\0\0\x05"s;
+const std::string SIT_IN = "\x01\0\x82\0\0"s;
+
+std::string temporary(const std::string& name) {
+  return testing::TempDir() + "herald-command-" + std::to_string(getpid()) + "-" + name;
+}
+
+std::string contentOf(const std::string& file) {
+  std::ostringstream content;
+  content << std::ifstream(file, std::ios::binary).rdbuf();
+  return content.str();
+}
+
+std::string number32(std::uint32_t value) { return {reinterpret_cast<const char*>(&value), sizeof(value)}; }
+
+std::string captureHeader(std::uint32_t linkType = 147) {
+  return number32(0xA1B2C3D4) + number32(4 << 16 | 2) + number32(0) + number32(0) + number32(65535)
+         + number32(linkType);
+}
+
+std::string record(const std::string& payload, std::size_t length) {
+  return number32(1) + number32(2) + number32(static_cast<std::uint32_t>(payload.size()))
+         + number32(static_cast<std::uint32_t>(length)) + payload;
+}
+
+std::string capture(const std::vector<std::string>& payloads) {
+  std::string bytes = captureHeader();
+  for (const std::string& payload : payloads) bytes += record(payload, payload.size());
+  return bytes;
+}
+
+struct Outcome {
+  int status;
+  std::string out;
+  std::string err;
+};
+
+// "FILE" among the arguments stands for a file with these bytes.
+Outcome run(const std::string& arguments, const std::string& file = "", const std::string& output = "") {
+  const std::string in = temporary("in");
+  const std::string out = temporary("out");
+  const std::string err = temporary("err");
+  std::ofstream(in, std::ios::binary) << file;
+  const std::string command = HERALD_COMMAND " " + std::regex_replace(arguments, std::regex("\\bFILE\\b"), in) + " <"
+                              + in + " >" + (output.empty() ? out : output) + " 2>" + err;
+  const int status = std::system(command.c_str());
+  Outcome outcome{WEXITSTATUS(status), output.empty() ? contentOf(out) : "", contentOf(err)};
+  for (const std::string& used : {in, out, err}) std::remove(used.c_str());
+  return outcome;
+}
+
+const std::vector<std::string> MIXED{
+    BET_DONE,
+    "\0\2\x58"s,           // unknown
+    "\0\0\x24ignored"s,    // without a message
+    "\0\0\x0C\0\0"s,       // too short
+    SIT_IN,                //
+    "\x01\x7F\xFF\0\1x"s,  // unknown request
+    "\0\xFF\xA2\0\x0A"
+    "a\tb\\\r\n\xC3\xAB z\xFF"s,  // text to be escaped, a byte unread
+};
+
+TEST(CommandTest, DecodesEachPacketIntoALine) {
+  const Outcome outcome = run("decode FILE", capture(MIXED));
+  EXPECT_EQ(outcome.status, 0);
+  EXPECT_EQ(outcome.out,
+            "1\t12\tClientBetDone\t13\t13\t[ClientBetDone: [CreditInfo: id=7, seat=3, amount=5]\n"
+            "2\t600\t-\t0\t0\t-\n"
+            "3\t36\t-\t0\t7\t-\n"
+            "4\t12\tClientBetDone\t0\t2\t-\n"
+            "5\t130\tServerSitIn\t-\t-\t-\n"
+            "6\t32767\t-\t-\t-\t-\n"
+            "7\t-94\tAdminNotificationMsg\t12\t13\t[AdminNotificationMsg: Message=a\\tb\\\\\\r\\n\xC3\xAB z]\n");
+  const std::regex reports(
+      "herald: packet 2: report: .*Unknown casino message \\(600\\)\n"
+      "herald: packet 4: report: .*Unknown error when reading message .*\n");
+  EXPECT_TRUE(std::regex_match(outcome.err, reports)) << outcome.err;
+  EXPECT_EQ(run("decode -", capture(MIXED)).out, outcome.out);
+}
+
+TEST(CommandTest, DecodesIntoJson) {
+  std::istringstream lines(run("decode --json FILE", capture(MIXED)).out);
+  std::vector<nlohmann::json> objects;
+  for (std::string line; std::getline(lines, line);) objects.push_back(nlohmann::json::parse(line));
+  ASSERT_EQ(objects.size(), MIXED.size());
+  const auto outcomeOf = [&](std::size_t i) { return objects[i].value("outcome", ""); };
+
+  const auto betDone = nlohmann::json::parse(R"({"packet": 1, "direction": "fromServer", "id": 12,
+      "class": "ClientBetDone", "outcome": "decoded", "bytesRead": 13, "bytes": 13,
+      "message": {"class": "ClientBetDone", "body": {"playerId": 7, "seat": 3, "amount": 5}}})");
+  EXPECT_EQ(objects[0], betDone);
+  EXPECT_EQ(outcomeOf(1), "unknownId");
+  EXPECT_TRUE(objects[1].at("class").is_null() && objects[1].at("message").is_null());
+  EXPECT_EQ(outcomeOf(2), "noMessage");
+  EXPECT_EQ(outcomeOf(3), "readThrew");
+  EXPECT_NE(objects[3].at("reason"), "");
+  EXPECT_EQ(objects[4], nlohmann::json::parse(R"({"packet": 5, "direction": "toServer", "id": 130,
+      "class": "ServerSitIn", "bytes": 0, "message": null})"));
+}
+
+TEST(CommandTest, DecodesABodyFromTheCommandLine) {
+  const std::string line = run("decode FILE", capture({BET_DONE})).out;
+  for (const char* hex : {"00000007030000000000000005", " 00 00 00 07 03 00000000\t00 00 00 05 "}) {
+    const Outcome outcome = run("decode --id 12 --hex '"s + hex + "'");
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(outcome.out, line);
+  }
+  EXPECT_EQ(run("decode --id -7 --hex ''").out.substr(0, 9), "1\t-7\tPing");
+}
+
+// All that is wrong is told in one line, with its exit status; what lies before and behind is decoded.
+TEST(CommandTest, TellsWhatIsWrongWithACapture) {
+  const std::string sound = capture({BET_DONE});
+  const auto behind = [&](const std::string& payload) { return capture({BET_DONE, payload, BET_DONE}); };
+  const struct {
+    std::string file;
+    std::string complaint;
+    int lines;
+  } cases[] = {
+      {"", "not a pcap file: .*", 0},
+      {"this is no capture, whatever its name says", "not a pcap file: unknown file format", 0},
+      {captureHeader(1), R"(the link type is 1 \(EN10MB\), not 147 \(USER0\))", 0},
+      {sound + number32(1), "packet 2: truncated dump file; .*", 1},
+      {sound + sound.substr(24, 20), "packet 2: truncated dump file; .*", 1},
+      {sound + record("\0\0"s, 9) + sound.substr(24), "packet 2: cut short: 2 of 9 bytes were captured", 2},
+      {behind(""), "packet 2: the payload is empty", 2},
+      {behind("\x07\0\x0C"s), "packet 2: the direction byte is 7, not 0 or 1", 2},
+      {behind("\0\x0C"s), "packet 2: too short for a message id: 1 byte", 2},
+      {behind("\x01\0\x82\0"s), "packet 2: too short for the header of a request: 3 bytes", 2},
+      {behind(SIT_IN + "x"), "packet 2: the request declares a body of 0 bytes and has 1 byte", 2},
+      {behind("\x01\0\x82\xFF\xFF"s), "packet 2: the request declares a body of -1 bytes and has 0 bytes", 2},
+  };
+  for (const auto& [file, complaint, lines] : cases) {
+    SCOPED_TRACE(complaint);
+    const Outcome outcome = run("decode FILE", file);
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_TRUE(std::regex_match(outcome.err, std::regex("herald: .*: " + complaint + "\n"))) << outcome.err;
+    EXPECT_EQ(std::ranges::count(outcome.out, '\n'), lines);
+    EXPECT_EQ(run("stats FILE", file).status, 1);
+  }
+}
+
+TEST(CommandTest, TellsWhatIsWrongWithACommandLine) {
+  const struct {
+    const char* arguments;
+    int status;
+    const char* complaint;
+  } cases[] = {
+      {"", 2, "subcommand is required"},
+      {"decode", 2, "FILE, or --id and --hex"},
+      {"decode --id 12", 2, "--id requires --hex"},
+      {"decode --hex 00", 2, "--hex requires --id"},
+      {"decode --id 12 --hex 00 FILE", 2, "FILE excludes --id"},
+      {"decode --id 32768 --hex 00", 2, "32768"},
+      {"decode --id 12 --hex '00 0'", 2, "\"0\" at character 4"},
+      {"decode --id 12 --hex 00zz", 2, "\"zz\" at character 3"},
+      {"decode --wrong FILE", 2, "--wrong"},
+      {"stats", 2, "FILE is required"},
+      {"decode no-such-file", 1, "no-such-file: No such file or directory"},
+  };
+  for (const auto& [arguments, status, complaint] : cases) {
+    SCOPED_TRACE(arguments);
+    const Outcome outcome = run(arguments, capture({}));
+    EXPECT_EQ(outcome.status, status);
+    EXPECT_NE(outcome.err.find(complaint), std::string::npos) << outcome.err;
+    EXPECT_EQ(outcome.out, "");
+  }
+}
+
+TEST(CommandTest, TellsThatTheOutputIsFull) {
+  for (const char* arguments : {"decode FILE", "stats FILE", "ids", "catalogue --help"}) {
+    const Outcome outcome = run(arguments, capture({BET_DONE}), "/dev/full");
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_EQ(outcome.err, "herald: standard output: No space left on device\n");
+  }
+}
+
+TEST(CommandTest, EndsWhenNobodyReadsItsOutput) {
+  const std::string file = temporary("long");
+  std::ofstream(file, std::ios::binary) << capture(std::vector<std::string>(10'000, BET_DONE));
+  const std::string command = HERALD_COMMAND " decode " + file + " 2>/dev/null";
+  std::FILE* pipe = popen(command.c_str(), "r");
+  ASSERT_NE(pipe, nullptr);
+  EXPECT_EQ(std::fgetc(pipe), '1');
+  EXPECT_EQ(WEXITSTATUS(pclose(pipe)), 1);
+  std::remove(file.c_str());
+}
+
+TEST(CommandTest, CountsByClass) {
+  std::vector<std::string> payloads = MIXED;
+  payloads.push_back(BET_DONE);
+  const Outcome outcome = run("stats FILE", capture(payloads));
+  EXPECT_EQ(outcome.status, 0);
+  EXPECT_EQ(outcome.err, "");
+  for (const char* row : {
+           "ClientBetDone +3 +28 +58\\.3% +1\n",
+           "AdminNotificationMsg +1 +13 +27\\.1% +0\n",
+           "\\(no message for id 36\\) +1 +7 +14\\.6% +0\n",
+           "\\(unknown id 600\\) +1 +0 +0\\.0% +1\n",
+           "Total +6 +48 +100\\.0% +2\n",
+           "ServerSitIn +1 +0 +0\\.0% +-\n",
+           "\\(unknown id 32767\\) +1 +1 +100\\.0% +-\n",
+           "Decoding took 0\\.[0-9]{6} s: [1-9][0-9]* messages/s, [0-9]+\\.[0-9] MB/s\\.\n",
+       })
+    EXPECT_TRUE(std::regex_search(outcome.out, std::regex(row))) << row << "in\n" << outcome.out;
+  EXPECT_EQ(run("stats FILE", capture({})).status, 0);
+}
+
+TEST(CommandTest, PrintsWhatThereIs) {
+  const std::string ids = run("ids").out;
+  EXPECT_EQ(static_cast<std::size_t>(std::ranges::count(ids, '\n')),
+            clientMessageTable().size() + serverMessageTable().size());
+  EXPECT_NE(ids.find("fromServer\t-21\t-\n"), std::string::npos);
+  EXPECT_NE(ids.find("toServer\t130\tServerSitIn\n"), std::string::npos);
+  EXPECT_EQ(run("catalogue").out, protocolCatalogue());
+  for (const char* subcommand : {"decode", "stats", "ids", "catalogue"}) {
+    const Outcome help = run(std::string(subcommand) + " --help");
+    EXPECT_EQ(help.status, 0);
+    EXPECT_NE(help.out.find("  herald "s + subcommand), std::string::npos) << help.out;
+  }
+}
+
+}  // namespace
+}  // namespace Tessel

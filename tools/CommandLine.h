@@ -1,0 +1,37 @@
+#pragma once
+#include <CLI/CLI.hpp>
+#include <string>
+
+namespace Tessel {
+
+class Diagnostics;
+class Output;
+
+/// The subcommands of `herald`, their options and their help.
+class CommandLine {
+ public:
+  CommandLine();
+
+  /// Throws `CLI::ParseError`, also for a call for help.
+  void parse(int argc, char** argv) { app_.parse(argc, argv); }
+  /// Does what was asked for; answers whether the capture, if there is one, was sound.
+  bool run(Output& output, Diagnostics& diagnostics) const;
+  /// Writes the help or the complaint that ended `parse`, and answers the exit status.
+  int explain(const CLI::ParseError& failure, Output& output) const;
+
+ private:
+  void addDecode();
+  void addStats();
+  bool decode(Output& output, Diagnostics& diagnostics) const;
+
+  CLI::App app_;
+  CLI::App* decode_ = nullptr;
+  CLI::App* stats_ = nullptr;
+  CLI::App* ids_ = nullptr;
+  std::string file_;
+  std::string hex_;
+  int id_ = 0;
+  bool asJson_ = false;
+};
+
+}  // namespace Tessel

@@ -1,0 +1,19 @@
+#pragma once
+#include <cstdint>
+#include <stdexcept>
+#include <string_view>
+#include <vector>
+
+namespace Tessel {
+
+/// A command line that asks for something that cannot be done.
+class UsageError : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+/// The bytes of pairs of hexadecimal digits, with or without blanks between the pairs. Throws `UsageError` for anything
+/// else.
+std::vector<std::uint8_t> parseHex(std::string_view text);
+
+}  // namespace Tessel
