@@ -1,0 +1,122 @@
+#include <gtest/gtest.h>
+#include <herald/mailboxes/GameModelNotifMessages.h>
+#include <herald/mailboxes/LobbyToGameMessages.h>
+#include <herald/mailboxes/MailBoxes.h>
+
+#include <atomic>
+#include <thread>
+
+namespace Tessel {
+namespace {
+
+std::atomic<int> living = 0;
+
+// A message of the smallest family that says who posted it and as which of the poster's.
+class Posted : public BringTableToTop {
+ public:
+  Posted(int fromPoster, int itsNumber) : poster(fromPoster), number(itsNumber) { ++living; }
+  Posted(const Posted&) = delete;
+  Posted& operator=(const Posted&) = delete;
+  ~Posted() override { --living; }
+
+  int poster;
+  int number;
+};
+
+int numberOf(const std::unique_ptr<LobbyToGameMessage>& message) { return static_cast<const Posted&>(*message).number; }
+
+class CountingPostOffice : public PostOffice {
+ public:
+  void post() override {
+    ++posts;
+    PostOffice::post();
+  }
+  void pickup() override {
+    ++pickups;
+    PostOffice::pickup();
+  }
+
+  int posts = 0;
+  int pickups = 0;
+};
+
+TEST(MailBox, KeepsTheOrderTellsThePostOfficeAndDeletesWhatIsLeft) {
+  CountingPostOffice office;
+  {
+    LobbyToGameMailBox box(&office);
+    EXPECT_TRUE(box.isEmpty());
+    for (int number = 0; number < 100; ++number) box.post(new Posted(0, number));
+    EXPECT_FALSE(box.isEmpty());
+    for (int number = 0; number < 40; ++number) EXPECT_EQ(numberOf(box.pickupOwned()), number);
+    const auto rest = box.pickupAll();
+    ASSERT_EQ(rest.size(), 60u);
+    for (int i = 0; i < 60; ++i) EXPECT_EQ(numberOf(rest[static_cast<std::size_t>(i)]), 40 + i);
+    EXPECT_TRUE(box.isEmpty());
+    EXPECT_EQ(box.pickup(), nullptr);
+    EXPECT_EQ(office.pickups, 100) << "an empty mailbox does not tell the post office";
+
+    box.post(std::make_unique<Posted>(0, 1));
+    box.post(static_cast<LobbyToGameMessage*>(nullptr));
+    EXPECT_EQ(office.getMailCount(), 2);
+  }
+  EXPECT_EQ(office.posts, 102);
+  EXPECT_EQ(office.pickups, 102) << "the destructor tells of each entry, null included";
+  EXPECT_EQ(living, 0);
+}
+
+TEST(MailBox, WorksWithoutAPostOfficeAndWithMessagesWithoutAVirtualDestructor) {
+  GameModelNotifMailbox box(nullptr);
+  box.post(new GMLobby(1));
+  box.post(new GMLeave(2, GMLeave::ReasonForLeaving{3}, 4));
+  EXPECT_EQ(box.pickupOwned()->getGameId(), 1);
+}
+
+TEST(MailBox, APostOfficeMayCallBackIntoTheMailbox) {
+  class Nosy : public PostOffice {
+   public:
+    void post() override { foundMail = !box->isEmpty() && box->pickupOwned() != nullptr; }
+    LobbyToGameMailBox* box = nullptr;
+    bool foundMail = false;
+  } office;
+  LobbyToGameMailBox box(&office);
+  office.box = &box;
+  box.post(new Posted(0, 1));
+  EXPECT_TRUE(office.foundMail);
+  EXPECT_TRUE(box.isEmpty());
+}
+
+TEST(MailBox, ManyProducersOneConsumer) {
+  constexpr int POSTERS = 4;
+  constexpr int MESSAGES = 250'000;  // of each
+  PostOffice office;
+  auto box = std::make_unique<LobbyToGameMailBox>(&office);
+  std::vector<std::thread> posters;
+  for (int poster = 0; poster < POSTERS; ++poster) {
+    posters.emplace_back([&box, poster] {
+      for (int number = 0; number < MESSAGES; ++number) box->post(new Posted(poster, number));
+    });
+  }
+  int next[POSTERS] = {};
+  bool inOrder = true;
+  for (int received = 0; received < POSTERS * MESSAGES - 10;) {
+    const std::unique_ptr<LobbyToGameMessage> message = box->pickupOwned();
+    if (!message) {
+      office.waitForMail(1000);
+      continue;
+    }
+    const auto& posted = static_cast<const Posted&>(*message);
+    inOrder = inOrder && posted.number == next[posted.poster];
+    ++next[posted.poster];
+    ++received;
+  }
+  for (std::thread& poster : posters) poster.join();
+  EXPECT_TRUE(inOrder);
+  EXPECT_EQ(office.getMailCount(), 10);
+  EXPECT_EQ(living, 10);
+  box.reset();
+  EXPECT_EQ(office.getMailCount(), 0);
+  EXPECT_EQ(living, 0);
+}
+
+}  // namespace
+}  // namespace Tessel
