@@ -1,0 +1,36 @@
+#include <herald/SpecificTournamentModel/TournamentPlayerRankingModel.h>
+
+#include <algorithm>
+
+namespace Tessel {
+
+void TournamentPlayerRankingModel::addPlayer(const RankedPlayer& player) {
+  removePlayerByRank(player.getPosition());
+  players_.add(player);
+}
+
+void TournamentPlayerRankingModel::removePlayerByRank(int rank) {
+  const int index = getArrayIndexFromRanking(rank);
+  if (index == -1) return;
+  std::move(players_.begin() + index + 1, players_.end(), players_.begin() + index);
+  players_.setSize(players_.size() - 1);
+}
+
+bool TournamentPlayerRankingModel::getRankedPlayer(int rank, RankedPlayer& player) const {
+  const int index = getArrayIndexFromRanking(rank);
+  if (index == -1) return false;
+  player = players_[index];
+  return true;
+}
+
+int TournamentPlayerRankingModel::getArrayIndexFromRanking(int rank) const {
+  const auto player = std::ranges::find(players_, rank, &RankedPlayer::getPosition);
+  return player == players_.end() ? -1 : static_cast<int>(player - players_.begin());
+}
+
+void TournamentPlayerRankingModel::setUserRanking(const RankedPlayer& user) {
+  userRanking_ = user;
+  hasUserRanking_ = true;
+}
+
+}  // namespace Tessel

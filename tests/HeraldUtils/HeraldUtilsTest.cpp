@@ -1,0 +1,137 @@
+#include <gtest/gtest.h>
+#include <herald/HeraldUtils/CurrentServerTimeModel.h>
+#include <herald/HeraldUtils/DateUtils.h>
+#include <herald/HeraldUtils/NodeTimer.h>
+#include <herald/HeraldUtils/SystemTime.h>
+#include <herald/HeraldUtils/TournamentBuyIn.h>
+#include <herald/HeraldUtils/UserAccountModel.h>
+#include <herald/platform/keystone/Exceptions.h>
+#include <herald/platform/lexicon/ResourceManager.h>
+#include <tests/support/ManualClock.h>
+#include <tests/support/RecordingSink.h>
+
+namespace Tessel {
+namespace {
+
+template <class Update>
+class Counter : public MVCObserver {
+ public:
+  explicit Counter(MVCModel& observed) : model(observed) { model.addObserver(*this); }
+  Counter(const Counter&) = delete;
+  Counter& operator=(const Counter&) = delete;
+  ~Counter() override { model.removeObserver(*this); }
+
+  void update(const NotificationUpdateObject& update) override {
+    static_cast<void>(dynamic_cast<const Update&>(update));
+    ++count;
+  }
+
+  MVCModel& model;
+  int count = 0;
+};
+
+// One test, since the model is one for the process and synchronises once.
+TEST(CurrentServerTimeModel, SynchronisesOnceAndAgainAfterTheTickCounterWrapped) {
+  const WithManualClock manual;
+  Counter<CurrentServerTimeUpdateObject> counter(*CurrentServerTimeModel::getInstance());
+  const auto time = [] {
+    TsTime now;
+    SystemTime().getTime(now);
+    return now.getSeconds();
+  };
+  manual.clock->ticks = 5000;
+  EXPECT_EQ(time(), 4) << "five seconds after a time of -1";
+  CurrentServerTimeModel::setCurrentServerTime(TsTime(-1));
+  EXPECT_EQ(time(), 4) << "a negative time is not taken";
+  CurrentServerTimeModel::setCurrentServerTime(TsTime(1000));
+  manual.clock->ticks = 6500;
+  EXPECT_EQ(time(), 1001) << "one and a half seconds later";
+  CurrentServerTimeModel::setCurrentServerTime(TsTime(7777));
+  EXPECT_EQ(time(), 1001) << "a second synchronisation is ignored";
+  EXPECT_EQ(counter.count, 3) << "every call notifies";
+
+  manual.clock->ticks = 0;
+  EXPECT_EQ(time(), 1000 + ((std::int64_t{1} << 32) - 5000) / 1000) << "the counter has wrapped";
+  CurrentServerTimeModel::setCurrentServerTime(TsTime(2000));
+  EXPECT_EQ(time(), 2000) << "and the next time is taken";
+}
+
+TEST(UserAccountModel, KeepsTheBalancesByPriority) {
+  UserAccountModel& accounts = UserAccountModel::getUserAccountModel();
+  Counter<UserAccountUpdateObject> counter(accounts);
+  accounts.newPriorityList({Money(100, 1), Money(200, 2), Money(300, 1)});
+  EXPECT_EQ(counter.count, 1);
+  accounts.addToAccount(Money(5, 1));
+  accounts.setAccount(Money(50, 2));
+  EXPECT_EQ(counter.count, 3);
+  accounts.addToAccount(Money(5, 9));
+  accounts.setAccount(Money(5, 9));
+  EXPECT_EQ(counter.count, 3) << "a unit without an account notifies nobody";
+
+  EXPECT_EQ(accounts.getAccount(1), Money(105, 1)) << "the first of two entries counts";
+  EXPECT_EQ(accounts.getAccount(9), Money(0, 9));
+  Money balance(7, 7);
+  EXPECT_FALSE(accounts.getAccountPrio(-1, balance));
+  EXPECT_FALSE(accounts.getAccountPrio(3, balance));
+  EXPECT_EQ(balance, Money(7, 7));
+  EXPECT_TRUE(accounts.getAccountPrio(1, balance));
+  EXPECT_EQ(balance, Money(50, 2));
+}
+
+TEST(NodeTimer, SaysHowFarOffItIs) {
+  const WithManualClock manual;
+  manual.clock->process = 10000;
+  NodeTimer timer(4, 'a', 12500);
+  EXPECT_EQ(timer.toDebugString(), L"[NodeTimer id=4, type=97 timestamp=12500 2 sec from now]");
+  timer.setTimer(7500);
+  EXPECT_EQ(timer.setType(static_cast<char>(0xFF)), -1);
+  EXPECT_EQ(timer.toDebugString(), L"[NodeTimer id=4, type=-1 timestamp=7500 -2 sec from now]");
+}
+
+TEST(DateUtils, DaysOfAMonth) {
+  const struct {
+    int year;
+    int month;
+    int days;
+  } rows[] = {{2004, 2, 29}, {1900, 2, 29}, {2003, 2, 28}, {-4, 2, 29}, {0, 1, 29}, {2003, 12, 31}, {2004, 4, 30}};
+  for (const auto& row : rows) EXPECT_EQ(DateUtils::getNumberDaysInMonth(row.year, row.month), row.days);
+  for (const int month : {0, 13}) {
+    EXPECT_THROW(DateUtils::getMonthString(month), OutOfBoundsException);
+    try {
+      DateUtils::getNumberDaysInMonth(2003, month);
+      ADD_FAILURE();
+    } catch (const OutOfBoundsException& failure) {
+      EXPECT_EQ(failure.getName(), L"monthNr");
+      EXPECT_EQ(failure.getLowest(), 1);
+      EXPECT_EQ(failure.getHighest(), 12);
+      EXPECT_EQ(failure.getIndex(), month);
+      EXPECT_EQ(failure.getFile(), L"HeraldUtils/DateUtils");
+    }
+  }
+}
+
+// One test, since the text for an invalid buy-in is looked up once in the life of the process.
+TEST(ResourceTexts, ComeFromTheResourcesAndAreReportedWhenTheyAreMissing) {
+  const WithRecordingSink recording;
+  const auto reports = [&] { return recording.sink->reports.size(); };
+  ResourceManager& resources = ResourceManager::getInstance();
+  EXPECT_EQ(DateUtils::getMonthString(1), L"January");
+  EXPECT_EQ(DateUtils::getAMPMString(true) + DateUtils::getAMPMString(false), L"AMPM");
+  resources.addTexts(L"BuyInTexts", {{L"BuyInFormatString", L"{BUYIN} and {FEE}"}});
+  EXPECT_EQ(TournamentBuyIn(Money(1000, 7), Money(100, 7)).getStringRepresentation(), L"1000 and 100");
+  EXPECT_EQ(reports(), 0u);
+
+  for (const wchar_t* section : {L"BuyInTexts", L"MonthText"}) resources.removeSection(section);
+  EXPECT_EQ(DateUtils::getMonthString(1), L"");
+  EXPECT_EQ(TournamentBuyIn(Money(1000, 7), Money()).getStringRepresentation(), L"");
+  EXPECT_EQ(TournamentBuyIn().getStringRepresentation(), L"");
+  EXPECT_EQ(reports(), 3u);
+  resources.restoreEnglish();
+  EXPECT_EQ(TournamentBuyIn().getStringRepresentation(), L"");
+  EXPECT_EQ(reports(), 3u) << "the missing text is not looked up again";
+  EXPECT_EQ(recording.sink->reports[0].getFile(), L"HeraldUtils/DateUtils");
+  EXPECT_EQ(recording.sink->reports[1].getFile(), L"HeraldUtils/TournamentBuyIn");
+}
+
+}  // namespace
+}  // namespace Tessel
