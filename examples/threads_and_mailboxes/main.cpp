@@ -10,10 +10,11 @@
 
 #include <atomic>
 #include <cstdint>
-#include <fstream>
 #include <iostream>
 #include <thread>
 #include <vector>
+
+#include "../support/ServerPackets.h"
 
 using namespace Tessel;
 
@@ -21,32 +22,6 @@ namespace {
 
 constexpr int WAIT_MS = 1000;
 constexpr int CONNECTION_ID = 1;
-
-struct Packet {
-  int id;
-  std::vector<std::uint8_t> body;
-};
-
-// What the server sent: the packets of a capture whose first byte, the direction, is 0.
-std::vector<Packet> readServerPackets(const std::string& path) {
-  std::ifstream file(path, std::ios::binary);
-  constexpr std::streamoff FILE_HEADER = 24;
-  constexpr std::size_t PACKET_HEADER = 16;
-  constexpr std::size_t LENGTH_AT = 8;
-  constexpr std::size_t ID_END = 3;
-  file.seekg(FILE_HEADER);
-  std::vector<Packet> packets;
-  for (std::vector<std::uint8_t> header(PACKET_HEADER);
-       file.read(reinterpret_cast<char*>(header.data()), PACKET_HEADER);) {
-    const std::uint8_t* length = header.data() + LENGTH_AT;  // low byte first
-    std::vector<std::uint8_t> payload(length[0] | length[1] << 8 | length[2] << 16);
-    file.read(reinterpret_cast<char*>(payload.data()), static_cast<std::streamsize>(payload.size()));
-    if (payload.size() < ID_END || payload[0] != 0) continue;
-    const auto id = static_cast<std::int16_t>(payload[1] << 8 | payload[2]);
-    packets.push_back({id, {payload.begin() + ID_END, payload.end()}});
-  }
-  return packets;
-}
 
 /// Decodes the packets that it is given and posts the messages on.
 class Decoder : public ServerViewMessageHandler {
@@ -94,7 +69,7 @@ int main(int argc, char** argv) {
     std::cerr << "usage: threads_and_mailboxes CAPTURE\n";
     return 2;
   }
-  const std::vector<Packet> packets = readServerPackets(argv[1]);
+  const std::vector<ServerPacket> packets = readServerPackets(argv[1]);
   if (packets.empty()) {
     std::cerr << argv[1] << ": no packets of a server\n";
     return 1;
@@ -112,7 +87,7 @@ int main(int argc, char** argv) {
   int delivered = 0;
 
   std::thread network([&] {
-    for (const Packet& packet : packets)
+    for (const ServerPacket& packet : packets)
       rawPackets.post(std::make_unique<ClientDataMessage>(CONNECTION_ID, packet.id, ByteStream(packet.body)));
     allReceived = true;
   });
