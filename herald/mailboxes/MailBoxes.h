@@ -3,13 +3,13 @@
 
 namespace Tessel {
 
-class BasicTexasStatControllerMessage;
-class ClientMessage;
-class GameModelNotifMessage;
-class LobbyToGameMessage;
-class PlayerNotesSubscriberMessage;
-class ServerViewMessage;
-class TournamentLobbyControllerMessage;
+class HERALD_API BasicTexasStatControllerMessage;
+class HERALD_API ClientMessage;
+class HERALD_API GameModelNotifMessage;
+class HERALD_API LobbyToGameMessage;
+class HERALD_API PlayerNotesSubscriberMessage;
+class HERALD_API ServerViewMessage;
+class HERALD_API TournamentLobbyControllerMessage;
 
 extern template class MailBox<BasicTexasStatControllerMessage, 1>;
 extern template class MailBox<ClientMessage, 1>;

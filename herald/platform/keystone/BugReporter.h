@@ -38,6 +38,7 @@ class HERALD_API StandardErrorSink : public ReportSink {
 /// The process-wide reporter. All operations are safe from any thread.
 class HERALD_API BugReporter : public BugReporterInterface {
  public:
+  ~BugReporter() override;
   static BugReporter& getInstance();
 
   void report(const KVRException& exception) override;
@@ -57,7 +58,6 @@ class HERALD_API BugReporter : public BugReporterInterface {
 
  private:
   BugReporter();
-  ~BugReporter() override;
   std::shared_ptr<ReportSink> sink() const;
 
   mutable std::mutex lock_;
