@@ -1,12 +1,5 @@
-#include <herald/mailboxes/BasicTexasStatControllerMessages.h>
-#include <herald/mailboxes/GameModelNotifMessages.h>
-#include <herald/mailboxes/LobbyToGameMessages.h>
 #include <herald/mailboxes/MailBoxOperations.h>
 #include <herald/mailboxes/MailBoxes.h>
-#include <herald/mailboxes/PlayerNotesSubscriberMessages.h>
-#include <herald/mailboxes/ServerViewMessages.h>
-#include <herald/mailboxes/TournamentLobbyControllerMessages.h>
-#include <herald/messages/ClientMessage.h>
 
 namespace Tessel {
 

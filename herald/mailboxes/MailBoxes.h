@@ -1,15 +1,14 @@
 #pragma once
+#include <herald/mailboxes/BasicTexasStatControllerMessages.h>
+#include <herald/mailboxes/GameModelNotifMessages.h>
+#include <herald/mailboxes/LobbyToGameMessages.h>
 #include <herald/mailboxes/MailBox.h>
+#include <herald/mailboxes/PlayerNotesSubscriberMessages.h>
+#include <herald/mailboxes/ServerViewMessages.h>
+#include <herald/mailboxes/TournamentLobbyControllerMessages.h>
+#include <herald/messages/ClientMessage.h>
 
 namespace Tessel {
-
-class HERALD_API BasicTexasStatControllerMessage;
-class HERALD_API ClientMessage;
-class HERALD_API GameModelNotifMessage;
-class HERALD_API LobbyToGameMessage;
-class HERALD_API PlayerNotesSubscriberMessage;
-class HERALD_API ServerViewMessage;
-class HERALD_API TournamentLobbyControllerMessage;
 
 extern template class MailBox<BasicTexasStatControllerMessage, 1>;
 extern template class MailBox<ClientMessage, 1>;
