@@ -5,6 +5,9 @@
 #include <new>
 #include <type_traits>
 
+// The family has no virtual destructor: its kinds are trivially destructible, which is asserted below.
+// NOLINTBEGIN(cppcoreguidelines-virtual-class-destructor)
+
 namespace Tessel {
 
 class GameModelNotifMessage;
@@ -33,7 +36,6 @@ class HERALD_API GameModelNotificationHandler {
   virtual void handle(const GMLeave& message) = 0;
 };
 
-// The family has no virtual destructor: its kinds are trivially destructible, which is asserted below.
 #ifdef __GNUC__
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
@@ -141,3 +143,5 @@ static_assert(std::is_trivially_destructible_v<GMAttention>);
 static_assert(std::is_trivially_destructible_v<GMLeave>);
 
 }  // namespace Tessel
+
+// NOLINTEND(cppcoreguidelines-virtual-class-destructor)

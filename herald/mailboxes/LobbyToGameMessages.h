@@ -3,6 +3,7 @@
 #include <herald/messages/info_objects/SettingsInfo.h>
 
 #include <memory>
+#include <utility>
 
 namespace Tessel {
 
@@ -53,7 +54,7 @@ class HERALD_API BringTableToTop : public PointerMessageKind<BringTableToTop, Lo
 
 class HERALD_API LobbySettingsMessage : public PointerMessageKind<LobbySettingsMessage, LobbyToGameMessage> {
  public:
-  explicit LobbySettingsMessage(const SettingsInfo& settings) : settings_(settings) {}
+  explicit LobbySettingsMessage(SettingsInfo settings) : settings_(std::move(settings)) {}
 
   const SettingsInfo& getSettings() const { return settings_; }
 
