@@ -13,6 +13,8 @@ class CurrentServerTimeUpdateVisitor;
 /// operations are safe from any thread.
 class HERALD_API CurrentServerTimeModel : public MVCModel {
  public:
+  ~CurrentServerTimeModel() override;
+
   static CurrentServerTimeModel* getInstance();
 
   /// Takes the time unless the clock is synchronised already or the time is negative, and notifies the observers in
@@ -25,7 +27,6 @@ class HERALD_API CurrentServerTimeModel : public MVCModel {
 
  private:
   CurrentServerTimeModel();
-  ~CurrentServerTimeModel() override;
 
   void synchronise(TsTime time);
   TsTime estimate();

@@ -11,6 +11,8 @@ namespace Tessel {
 /// its whole work, the notification with a `UserAccountUpdateObject` included.
 class HERALD_API UserAccountModel : public MVCModel {
  public:
+  ~UserAccountModel() override;
+
   static UserAccountModel& getUserAccountModel();
 
   /// Replaces the whole list and notifies.
@@ -26,7 +28,6 @@ class HERALD_API UserAccountModel : public MVCModel {
 
  private:
   UserAccountModel();
-  ~UserAccountModel() override;
 
   int getIndex(int monetaryUnitId) const;
 
