@@ -1,7 +1,13 @@
 #include <gtest/gtest.h>
 #include <herald/inspect/Catalogue.h>
+#include <herald/messages/ClientMessageTable.h>
+#include <herald/messages/ServerMessageTable.h>
+#include <herald/messages/info_objects/InfoVector.h>
+#include <herald/platform/keystone/UTFEncoder.h>
 
+#include <algorithm>
 #include <fstream>
+#include <map>
 #include <set>
 #include <sstream>
 
@@ -28,6 +34,31 @@ TEST(CatalogueTest, IsTheOneThatIsCheckedIn) {
   for (std::size_t i = 0; i < std::min(checkedIn.size(), printed.size()); ++i)
     ASSERT_EQ(checkedIn[i], printed[i]) << "line " << i + 1;
   EXPECT_EQ(checkedIn.size(), printed.size());
+}
+
+// The elements of a tagged list are records that no field names: the layout has to tell each of them.
+TEST(CatalogueTest, HoldsEveryMessageAndEveryElementOfATaggedList) {
+  const std::vector<std::string> lines = printedLines();
+  const std::set<std::string> titles(lines.begin(), lines.end());
+  const auto expectTitle = [&](const std::string& title) { EXPECT_TRUE(titles.contains(title)) << title; };
+  for (const ClientMessageRow& row : clientMessageTable())
+    expectTitle(std::to_string(row.id) + " " + (row.create ? std::string(row.name) : "(creates no message)"));
+  for (const ServerMessageRow& row : serverMessageTable())
+    expectTitle(std::to_string(row.id) + " " + std::string(row.name));
+
+  std::map<std::string, std::string> elements;
+  for (auto line = std::find(lines.begin(), lines.end(), "TYPE STRINGS"); line != lines.end(); ++line) {
+    std::istringstream words(*line);
+    std::string record;
+    std::string typeString;
+    if (words >> record >> typeString && line->starts_with("  ")) elements[typeString] = record;
+  }
+  for (const auto typeString :
+       {InfoVector::CreditInfotypeString, InfoVector::PokerGameInfoTypeString, InfoVector::PGSettingsInfoTypeString,
+        InfoVector::TournamentLobbyPlayerInfoTypeString, InfoVector::TournamentLobbyTableInfoTypeString,
+        InfoVector::VIPPlayerInfoTypeString, InfoVector::TreeNodeInfoTypeString})
+    expectTitle(elements.at(UTFEncoder::toUTF8(typeString)));
+  EXPECT_EQ(elements.size(), 7u);
 }
 
 // JSON would lose one of two fields of the same name.

@@ -10,6 +10,7 @@
 #include <herald/platform/keystone/ByteStream.h>
 #include <herald/platform/keystone/Exceptions.h>
 #include <herald/platform/keystone/TypeName.h>
+#include <herald/platform/keystone/UTFEncoder.h>
 #include <herald/wire/FieldSink.h>
 
 #include <utility>
@@ -39,6 +40,11 @@ constexpr ElementClass ELEMENT_CLASSES[] = {
     {InfoVector::VIPPlayerInfoTypeString, create<VIPPlayerInfo>},
     {InfoVector::TreeNodeInfoTypeString, create<TreeNodeInfo>},
 };
+
+void describeElement(std::string_view name, const ReadableObjectInfo& element, FieldSink& sink) {
+  if (sink.beginRecord(name, classNameOf(typeid(element)))) element.describe(sink);
+  sink.endRecord();
+}
 
 }  // namespace
 
@@ -74,11 +80,11 @@ void InfoVector::describe(FieldSink& sink) const {
   sink.number("count", WireType::INT, size());
   sink.text("type", typeString_.getUTF8(), false);
   sink.beginList("elements", WireType::NONE, size());
-  for (const auto& element : elements_) {
-    const ReadableObjectInfo& record = *element;
-    if (sink.beginRecord("", classNameOf(typeid(record)))) record.describe(sink);
-    sink.endRecord();
+  if (sink.wantsLayout()) {
+    for (const ElementClass& row : ELEMENT_CLASSES)
+      describeElement(UTFEncoder::toUTF8(row.typeString), *std::unique_ptr<ReadableObjectInfo>(row.create()), sink);
   }
+  for (const auto& element : elements_) describeElement("", *element, sink);
   sink.endList();
 }
 
