@@ -242,7 +242,9 @@ class LobbyPlay {
     ping(52);
   }
 
-  static Money moneyOf(const Person& person, const Game& game) { return {100 * (person.id % 97), game.unit}; }
+  static Money moneyOf(const Person& person, const Game& game) {
+    return {std::int64_t{100} * (person.id % 97), game.unit};
+  }
 
   // A table's lobby: who plays and who waits there.
   Body lobbyInfo(const Game& game) const {

@@ -228,6 +228,7 @@ void Table::startHand(std::string_view firstCards) {
 void Table::postAntes() {
   const std::vector<Player*> players = inHandAfter(dealerSeat_);
   std::vector<Body> requests;
+  requests.reserve(players.size());
   for (const Player* player : players) requests.push_back(actions(*player, CHECK_CALL, game_.ante));
   tell<ClientBetAnteReq>(betRequest(players, requests));
   for (Player* player : players) {

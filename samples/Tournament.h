@@ -98,7 +98,7 @@ class Tournament {
 
   void win(Entrant& winner, Entrant& loser, std::int64_t amount);
   void inviteUser();
-  void moveTo(int table, Entrant& entrant);
+  void moveTo(int table, Entrant& moved);
   void balanceTables();
   void tellKnockout(const Entrant& entrant);
 

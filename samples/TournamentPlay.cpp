@@ -92,14 +92,14 @@ class TournamentPlay {
 
   void tellData() {
     constexpr int TYPE_SIT_AND_GO = 0;
-    constexpr std::int64_t bigBlinds[] = {20, 30, 50, 100, 150, 200};
+    constexpr std::int64_t BIG_BLINDS[] = {20, 30, 50, 100, 150, 200};
     const Tour& tour = spring_.summary();
     Body body;
     body.i32(tour.id).money(euros(Tour::BUY_IN)).money(euros(Tour::FEE)).i32(tour.entrants);
     body.money(euros(tour.prizePool)).i32(1).i32(Tour::PAID_PLACES).money(chipsOf(Tour::STARTING_CHIPS));
     body.i8(TYPE_SIT_AND_GO).i8(AllowedGameType::TEXAS_HOLDEM).i8(AllowedLimitType::NO_LIMIT);
     body.text(tour.name).text(tour.description).i8(tour.registration);
-    body.list<std::int32_t, std::int64_t>(bigBlinds);
+    body.list<std::int32_t, std::int64_t>(BIG_BLINDS);
     capture_.server<TournamentDataWinClientMsg>(body);
   }
 

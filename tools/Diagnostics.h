@@ -34,13 +34,16 @@ class Diagnostics {
   Clock::time_point nextLine_;
 };
 
-/// Writes the reports of the library as complaints about the packet that is being decoded.
+/// Writes the reports of the library as complaints about the packet that is being decoded. Messages that log themselves
+/// as they are read stand in the output already, so log lines and traces are dropped.
 class PacketReportSink : public StandardErrorSink {
  public:
   explicit PacketReportSink(Diagnostics& diagnostics) : diagnostics_(diagnostics) {}
 
   void setPacket(std::uint64_t number) { packet_ = number; }
   void report(const KVRException& exception) override;
+  void trace(std::wstring_view) override {}
+  void log(std::wstring_view, std::wstring_view, int) override {}
 
  private:
   Diagnostics& diagnostics_;

@@ -130,16 +130,6 @@ TEST(Delivery, TheStaticOperationDestroysTheMessageAfterwards) {
   EXPECT_EQ(alive, 0);
 }
 
-TEST(Delivery, AMessageOfTheCallerStaysAlive) {
-  int alive = 0;
-  const CountedMessage message(alive);
-  RecordingHandler handler;
-  message.handle(handler);
-  message.handle(handler);
-  EXPECT_EQ(handler.names.size(), 2u);
-  EXPECT_EQ(alive, 1);
-}
-
 }  // namespace
 
 }  // namespace Tessel

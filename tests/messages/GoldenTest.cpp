@@ -149,6 +149,7 @@ void checkRecord(const GoldenCase& golden) {
 
 template <class T>
 void readAnything(std::span<const std::uint8_t> bytes) {
+  const WithRecordingSink recording;
   ByteStream in(bytes);
   T record;
   try {

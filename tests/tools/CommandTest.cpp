@@ -71,13 +71,14 @@ Outcome run(const std::string& arguments, const std::string& file = "", const st
 
 const std::vector<std::string> MIXED{
     BET_DONE,
-    "\0\2\x58"s,           // unknown
-    "\0\0\x24ignored"s,    // without a message
-    "\0\0\x0C\0\0"s,       // too short
-    SIT_IN,                //
+    "\0\2\x58"s,         // unknown
+    "\0\0\x24ignored"s,  // without a message
+    "\0\0\x0C\0\0"s,     // too short
+    SIT_IN,
     "\x01\x7F\xFF\0\1x"s,  // unknown request
     "\0\xFF\xA2\0\x0A"
     "a\tb\\\r\n\xC3\xAB z\xFF"s,  // text to be escaped, a byte unread
+    "\0\x01\x5F"s,                // a message that logs itself
 };
 
 TEST(CommandTest, DecodesEachPacketIntoALine) {
@@ -90,7 +91,8 @@ TEST(CommandTest, DecodesEachPacketIntoALine) {
             "4\t12\tClientBetDone\t0\t2\t-\n"
             "5\t130\tServerSitIn\t-\t-\t-\n"
             "6\t32767\t-\t-\t-\t-\n"
-            "7\t-94\tAdminNotificationMsg\t12\t13\t[AdminNotificationMsg: Message=a\\tb\\\\\\r\\n\xC3\xAB z]\n");
+            "7\t-94\tAdminNotificationMsg\t12\t13\t[AdminNotificationMsg: Message=a\\tb\\\\\\r\\n\xC3\xAB z]\n"
+            "8\t351\tTourBreakEnd\t0\t0\t[TourBreakEnd]\n");
   const std::regex reports(
       "herald: packet 2: report: .*Unknown casino message \\(600\\)\n"
       "herald: packet 4: report: .*Unknown error when reading message .*\n");
@@ -217,7 +219,7 @@ TEST(CommandTest, CountsByClass) {
            "AdminNotificationMsg +1 +13 +27\\.1% +0\n",
            "\\(no message for id 36\\) +1 +7 +14\\.6% +0\n",
            "\\(unknown id 600\\) +1 +0 +0\\.0% +1\n",
-           "Total +6 +48 +100\\.0% +2\n",
+           "Total +7 +48 +100\\.0% +2\n",
            "ServerSitIn +1 +0 +0\\.0% +-\n",
            "\\(unknown id 32767\\) +1 +1 +100\\.0% +-\n",
            "Decoding took 0\\.[0-9]{6} s: [1-9][0-9]* messages/s, [0-9]+\\.[0-9] MB/s\\.\n",
