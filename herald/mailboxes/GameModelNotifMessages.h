@@ -58,6 +58,19 @@ class HERALD_API GameModelNotifMessage {
   int gameId_;
 };
 
+}  // namespace Tessel
+
+/// What owns a notification deletes it as above. Clang warns of each `delete` expression here: it does not see that it
+/// needs no virtual destructor.
+template <>
+struct std::default_delete<Tessel::GameModelNotifMessage> {
+  void operator()(Tessel::GameModelNotifMessage* message) const {
+    Tessel::GameModelNotifMessage::operator delete(message, std::destroying_delete_t());
+  }
+};
+
+namespace Tessel {
+
 class HERALD_API GMGameIdSwitch : public GameModelNotifMessage {
  public:
   GMGameIdSwitch(int gameId, int newGameId) : GameModelNotifMessage(gameId), newGameId_(newGameId) {}

@@ -158,7 +158,7 @@ void readAnything(std::span<const std::uint8_t> bytes) {
   }
   record.toDebugString();
   valuesOf(record);
-  const T copy(record);
+  [[maybe_unused]] const T copy(record);
 }
 
 struct RecordRow {

@@ -46,11 +46,11 @@ class VisitingHandlerOf;
 template <class Visitor>
 class VisitingHandlerOf<Visitor, ClassList<>> : public DefaultClientMessageHandler {
  public:
-  explicit VisitingHandlerOf(Visitor visitor) : visit_(std::move(visitor)) {}
+  explicit VisitingHandlerOf(Visitor visitor) : visit(std::move(visitor)) {}
   using DefaultClientMessageHandler::handle;
 
  protected:
-  Visitor visit_;
+  Visitor visit;
 };
 
 template <class Visitor, class First, class... Rest>
@@ -58,7 +58,7 @@ class VisitingHandlerOf<Visitor, ClassList<First, Rest...>> : public VisitingHan
  public:
   using VisitingHandlerOf<Visitor, ClassList<Rest...>>::VisitingHandlerOf;
   using VisitingHandlerOf<Visitor, ClassList<Rest...>>::handle;
-  void handle(const First& message) override { this->visit_(message); }
+  void handle(const First& message) override { this->visit(message); }
 };
 
 /// Calls the visitor with the message as its own class. It has every operation of the handler interface.
