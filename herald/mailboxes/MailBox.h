@@ -5,6 +5,7 @@
 #include <atomic>
 #include <memory>
 #include <mutex>
+#include <thread>
 #include <utility>
 #include <vector>
 
@@ -40,13 +41,85 @@ class HERALD_API MailBox {
   std::vector<std::unique_ptr<T>> pickupAll();
 
  private:
-  void announce();
-  T* takeOldest();
+  // While the mailbox calls out under its lock, what it calls may come back on the same thread. Noting the thread only
+  // then makes the lock recursive at the price of a plain one.
+  class CallingOut {
+   public:
+    explicit CallingOut(MailBox& box) : box_(box), outer_(box.calling_.exchange(std::this_thread::get_id())) {}
+    ~CallingOut() { box_.calling_ = outer_; }
+    CallingOut(const CallingOut&) = delete;
+    CallingOut& operator=(const CallingOut&) = delete;
 
-  std::recursive_mutex lock_;
+   private:
+    MailBox& box_;
+    std::thread::id outer_;
+  };
+
+  bool isCalledBack() const {
+    const std::thread::id calling = calling_.load(std::memory_order_relaxed);
+    return calling != std::thread::id() && calling == std::this_thread::get_id();
+  }
+
+  template <class Work>
+  auto locked(Work work) {
+    if (isCalledBack()) [[unlikely]]
+      return work();
+    const std::lock_guard guard(lock_);
+    return work();
+  }
+
+  void announce();
+  T* removeOldest();
+  T* takeOldest();
+  void tell(void (PostOffice::*event)());
+
+  std::mutex lock_;
+  std::atomic<std::thread::id> calling_ = std::thread::id();
   MessageQueue<T> queue_;
   std::atomic<int> count_ = 0;
   PostOffice* postOffice_;
 };
+
+template <class T, int N>
+inline void MailBox<T, N>::post(T* message) {
+  locked([&] {
+    queue_.push(message);
+    announce();
+  });
+}
+
+template <class T, int N>
+inline void MailBox<T, N>::post(std::unique_ptr<T> message) {
+  locked([&] {
+    queue_.push(message.get());
+    static_cast<void>(message.release());
+    announce();
+  });
+}
+
+template <class T, int N>
+inline T* MailBox<T, N>::pickup() {
+  return locked([&] { return queue_.size() > 0 ? takeOldest() : nullptr; });
+}
+
+template <class T, int N>
+inline void MailBox<T, N>::announce() {
+  count_.store(queue_.size(), std::memory_order_release);
+  if (postOffice_ != nullptr) tell(&PostOffice::post);
+}
+
+template <class T, int N>
+inline T* MailBox<T, N>::removeOldest() {
+  T* const message = queue_.pop();
+  count_.store(queue_.size(), std::memory_order_release);
+  return message;
+}
+
+template <class T, int N>
+inline T* MailBox<T, N>::takeOldest() {
+  T* const message = removeOldest();
+  if (postOffice_ != nullptr) tell(&PostOffice::pickup);
+  return message;
+}
 
 }  // namespace Tessel

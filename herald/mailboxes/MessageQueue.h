@@ -1,6 +1,7 @@
 #pragma once
-#include <cstddef>
-#include <vector>
+#include <cstdint>
+#include <memory>
+#include <utility>
 
 namespace Tessel {
 
@@ -8,36 +9,39 @@ namespace Tessel {
 template <class T>
 class MessageQueue {
  public:
-  int size() const { return static_cast<int>(size_); }
+  int size() const { return static_cast<int>(posted_ - popped_); }
 
   /// When memory runs out, `std::bad_alloc` leaves the queue as it was.
   void push(T* message) {
-    if (size_ == ring_.size()) grow();
-    ring_[(first_ + size_) & (ring_.size() - 1)] = message;
-    ++size_;
+    if (posted_ - popped_ == capacity_) grow();
+    at(posted_) = message;
+    ++posted_;
   }
 
   /// The oldest. The queue must not be empty.
-  T* pop() {
-    T* const message = ring_[first_];
-    first_ = (first_ + 1) & (ring_.size() - 1);
-    --size_;
-    return message;
-  }
+  T* pop() { return at(popped_++); }
 
  private:
-  static constexpr std::size_t FIRST_CAPACITY = 16;  // a power of two, as every capacity
+  static constexpr std::uint32_t FIRST_CAPACITY = 16;
+
+  T*& at(std::uint32_t number) { return ring_[number & (capacity_ - 1)]; }
 
   void grow() {
-    std::vector<T*> bigger(ring_.empty() ? FIRST_CAPACITY : 2 * ring_.size());
-    for (std::size_t i = 0; i < size_; ++i) bigger[i] = ring_[(first_ + i) & (ring_.size() - 1)];
-    ring_.swap(bigger);
-    first_ = 0;
+    const std::uint32_t count = posted_ - popped_;
+    const std::uint32_t capacity = capacity_ > 0 ? 2 * capacity_ : FIRST_CAPACITY;
+    std::unique_ptr<T*[]> ring(new T*[capacity]);
+    for (std::uint32_t i = 0; i < count; ++i) ring[i] = at(popped_ + i);
+    ring_ = std::move(ring);
+    capacity_ = capacity;
+    popped_ = 0;
+    posted_ = count;
   }
 
-  std::vector<T*> ring_;
-  std::size_t first_ = 0;
-  std::size_t size_ = 0;
+  // The capacity is a power of two, so that the numbers of messages may wrap around.
+  std::unique_ptr<T*[]> ring_;
+  std::uint32_t capacity_ = 0;
+  std::uint32_t popped_ = 0;
+  std::uint32_t posted_ = 0;
 };
 
 }  // namespace Tessel

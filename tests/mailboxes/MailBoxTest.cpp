@@ -33,11 +33,13 @@ class CountingPostOffice : public PostOffice {
   }
   void pickup() override {
     ++pickups;
+    livingAtPickup = living;
     PostOffice::pickup();
   }
 
   int posts = 0;
   int pickups = 0;
+  int livingAtPickup = 0;
 };
 
 TEST(MailBox, KeepsTheOrderTellsThePostOfficeAndDeletesWhatIsLeft) {
@@ -55,10 +57,11 @@ TEST(MailBox, KeepsTheOrderTellsThePostOfficeAndDeletesWhatIsLeft) {
     EXPECT_EQ(box.pickup(), nullptr);
     EXPECT_EQ(office.pickups, 100) << "an empty mailbox does not tell the post office";
 
-    box.post(std::make_unique<Posted>(0, 1));
     box.post(static_cast<LobbyToGameMessage*>(nullptr));
+    box.post(std::make_unique<Posted>(0, 1));
     EXPECT_EQ(office.getMailCount(), 2);
   }
+  EXPECT_EQ(office.livingAtPickup, 0) << "the destructor deletes a message before it tells of it";
   EXPECT_EQ(office.posts, 102);
   EXPECT_EQ(office.pickups, 102) << "the destructor tells of each entry, null included";
   EXPECT_EQ(living, 0);
@@ -74,14 +77,18 @@ TEST(MailBox, WorksWithoutAPostOfficeAndWithMessagesWithoutAVirtualDestructor) {
 TEST(MailBox, APostOfficeMayCallBackIntoTheMailbox) {
   class Nosy : public PostOffice {
    public:
-    void post() override { foundMail = !box->isEmpty() && box->pickupOwned() != nullptr; }
+    void post() override {
+      foundMail = !box->isEmpty() && box->pickupOwned() != nullptr;
+      foundMore = box->pickupOwned() != nullptr;
+    }
     LobbyToGameMailBox* box = nullptr;
     bool foundMail = false;
+    bool foundMore = true;
   } office;
   LobbyToGameMailBox box(&office);
   office.box = &box;
   box.post(new Posted(0, 1));
-  EXPECT_TRUE(office.foundMail);
+  EXPECT_TRUE(office.foundMail && !office.foundMore);
   EXPECT_TRUE(box.isEmpty());
 }
 
@@ -91,6 +98,7 @@ TEST(MailBox, ManyProducersOneConsumer) {
   PostOffice office;
   auto box = std::make_unique<LobbyToGameMailBox>(&office);
   std::vector<std::thread> posters;
+  posters.reserve(POSTERS);
   for (int poster = 0; poster < POSTERS; ++poster) {
     posters.emplace_back([&box, poster] {
       for (int number = 0; number < MESSAGES; ++number) box->post(new Posted(poster, number));
