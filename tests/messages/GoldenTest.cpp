@@ -39,14 +39,18 @@ namespace {
 
 using Bytes = std::vector<std::uint8_t>;
 
-template <class T>
-void expectValues(const T& object, const GoldenCase& golden) {
+void expectValues(Inspectable object, const std::wstring& text, const GoldenCase& golden) {
   if (golden.text) {
-    EXPECT_EQ(UTFEncoder::toUTF8(object.toDebugString()), *golden.text);
+    EXPECT_EQ(UTFEncoder::toUTF8(text), *golden.text);
   }
   if (!golden.values) return;
   EXPECT_EQ(valuesOf(object), *golden.values);
   EXPECT_EQ(toHex(encodedOf(object)), toHex(golden.encoded()));
+}
+
+template <class T>
+void expectValues(const T& object, const GoldenCase& golden) {
+  expectValues(object, object.toDebugString(), golden);
 }
 
 template <class T>

@@ -53,12 +53,21 @@ class VisitingHandlerOf<Visitor, ClassList<>> : public DefaultClientMessageHandl
   Visitor visit;
 };
 
-template <class Visitor, class First, class... Rest>
-class VisitingHandlerOf<Visitor, ClassList<First, Rest...>> : public VisitingHandlerOf<Visitor, ClassList<Rest...>> {
+// Eight operations a level: the compiler's time grows with the square of the levels.
+template <class Visitor, class A, class B, class C, class D, class E, class F, class G, class H, class... Rest>
+class VisitingHandlerOf<Visitor, ClassList<A, B, C, D, E, F, G, H, Rest...>>
+    : public VisitingHandlerOf<Visitor, ClassList<Rest...>> {
  public:
   using VisitingHandlerOf<Visitor, ClassList<Rest...>>::VisitingHandlerOf;
   using VisitingHandlerOf<Visitor, ClassList<Rest...>>::handle;
-  void handle(const First& message) override { this->visit(message); }
+  void handle(const A& message) override { this->visit(message); }
+  void handle(const B& message) override { this->visit(message); }
+  void handle(const C& message) override { this->visit(message); }
+  void handle(const D& message) override { this->visit(message); }
+  void handle(const E& message) override { this->visit(message); }
+  void handle(const F& message) override { this->visit(message); }
+  void handle(const G& message) override { this->visit(message); }
+  void handle(const H& message) override { this->visit(message); }
 };
 
 /// Calls the visitor with the message as its own class. It has every operation of the handler interface.
