@@ -18,6 +18,8 @@ fail() {
   exit 1
 }
 
+takes_no_arguments() { [ $# = 0 ] || fail "usage: scripts/$(basename "$0")"; }
+
 # Installs those of the named Debian packages that are missing.
 need_packages() {
   local missing=() package
