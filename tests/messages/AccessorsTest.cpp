@@ -8,85 +8,27 @@
 #include <herald/messages/PrivateGameEvents.h>
 #include <herald/messages/SeatEvents.h>
 #include <herald/messages/TableStateEvents.h>
+#include <herald/messages/info_objects/GameIdInfo.h>
 #include <herald/messages/info_objects/ObjectInfo.h>
 #include <herald/messages/info_objects/TesselBool.h>
 #include <herald/messages/info_objects/TesselIntBitMask.h>
-#include <herald/platform/keystone/ByteStream.h>
 #include <herald/platform/keystone/Exceptions.h>
-#include <herald/platform/keystone/UTFEncoder.h>
-#include <tests/support/Golden.h>
-#include <tests/support/Notation.h>
+#include <tests/support/Told.h>
 
 #include <climits>
 #include <functional>
 #include <memory>
 #include <string>
-#include <type_traits>
-#include <typeinfo>
 
 namespace Tessel {
 
 namespace {
-
-std::string shown(const Money& money) {
-  return std::to_string(money.getAmount()) + '/' + std::to_string(money.getMonetaryUnitId());
-}
-std::string shown(const std::wstring& text) { return UTFEncoder::toUTF8(text); }
-std::string shown(const Card& card) { return UTFEncoder::toUTF8(card.toCString()); }
-
-template <class T>
-requires std::is_arithmetic_v<T> || std::is_enum_v<T> std::string shown(T value) {
-  return std::to_string(static_cast<long long>(value));
-}
-
-template <class List>
-requires requires(const List& list) {
-  list.at(0);
-  list.size();
-}
-std::string shown(const List& list) {
-  std::string text = "(";
-  for (int i = 0; i < list.size(); ++i) text += (i == 0 ? "" : " ") + std::to_string(list.at(i));
-  return text + ')';
-}
-
-/// What accessors answer, separated by blanks; money as amount/unit.
-template <class... Values>
-std::string told(const Values&... values) {
-  std::string text;
-  ((text += (text.empty() ? "" : " ") + shown(values)), ...);
-  return text;
-}
-
-template <class T>
-T read(std::span<const std::uint8_t> bytes) {
-  ByteStream in(bytes);
-  T object;
-  EXPECT_TRUE(object.read(in));
-  return object;
-}
-
-template <class T>
-T read(std::string_view notation) {
-  return read<T>(toBytes(notation));
-}
-
-/// The first golden case of the class.
-template <class T>
-T golden() {
-  return read<T>(goldenCase(typeName<T>()).bytes);
-}
 
 /// The accessor of a message answers the record of its body.
 template <class Message, class Record>
 void expectCarries(Record (Message::*record)() const) {
   const auto message = golden<Message>();
   EXPECT_EQ(valuesOf((message.*record)()), valuesOf(message)) << typeName<Message>();
-}
-
-template <class Record>
-void expectTold(std::string_view expected, const std::function<std::string(const Record&)>& accessors) {
-  EXPECT_EQ(accessors(golden<Record>()), expected) << typeName<Record>();
 }
 
 TEST(Accessors, OfMessagesAnswerTheirRecord) {
@@ -250,6 +192,12 @@ TEST(Accessors, OfRecordsAnswerTheirFields) {
   });
   expectTold<PingInfoInfo>("Åke -151 -153/152",
                            [](auto& r) { return told(r.getNick(), r.getPing(), r.getMoneyAtTable()); });
+  expectTold<PGPlayerReqToJoinGame>("71 låt mig in",
+                                    [](auto& m) { return told(m.getPlayerInfo().getId(), m.getRequestText()); });
+  expectTold<VIPPlayerInfo>("161 1 1 -162 10 Ödön -163", [](auto& r) {
+    return told(r.getPlayerId(), r.isPlaying(), r.getGameKind(), r.getGameId(), r.getVIPType(), r.getVIPName(),
+                r.getVIPStatus());
+  });
   expectTold<CurrencyInfo>("SEK kr   :- -170 17", [](auto& r) {
     return told(r.getId(), r.getPrefix(), r.getPostfix(), r.getCutOffAmount(), r.getSortingPriority());
   });
@@ -397,6 +345,7 @@ TEST(IndexedAccessors, RefuseWhatLiesOutside) {
   const auto hand = golden<HandValueInfo>();
   const auto state = golden<PokerGameStateInfo>();
   const auto rules = golden<PokerRulesInfo>();
+  const auto games = golden<GameIdInfo>();
   const auto node = golden<TreeNodeInfo>();
   const auto list = read<InfoList<TesselInt>>("0001 00000005");
   const auto none = read<InfoList<TesselInt>>("FFFE");
@@ -415,6 +364,7 @@ TEST(IndexedAccessors, RefuseWhatLiesOutside) {
       {L"HandValueInfo", 2, [&](int i) { hand.getSpecifiedCard(i); }},
       {L"PokerGameStateInfo", 2, [&](int i) { state.getPlayerState(i); }},
       {L"PokerRulesInfo", 2, [&](int i) { rules.getChipStackValue(i); }},
+      {L"GameIdInfo", 2, [&](int i) { games.getId(i); }},
       {L"TreeNodeInfo", 2, [&](int i) { node.getSubNode(i); }},
       {L"InfoList", 1, [&](int i) { list[i]; }},
       {L"InfoList", 0, [&](int i) { none[i]; }},

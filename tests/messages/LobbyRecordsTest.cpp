@@ -1,13 +1,10 @@
 #include <gtest/gtest.h>
 #include <herald/messages/info_objects/AccountBalanceInfo.h>
 #include <herald/messages/info_objects/ChatMessage.h>
-#include <herald/messages/info_objects/GameIdInfo.h>
-#include <herald/messages/info_objects/GameInfoList.h>
 #include <herald/messages/info_objects/MonetaryInfo.h>
 #include <herald/messages/info_objects/PGSettingsInfoList.h>
 #include <herald/messages/info_objects/PingInfoInfo.h>
 #include <herald/messages/info_objects/PokerGameInfo.h>
-#include <herald/messages/info_objects/PokerLobbyInfo.h>
 #include <herald/messages/info_objects/SettingsInfo.h>
 #include <herald/messages/info_objects/TreeNodeInfoList.h>
 #include <herald/messages/info_objects/VIPList.h>
@@ -15,7 +12,7 @@
 #include <herald/platform/keystone/MoneyModel.h>
 #include <herald/wire/FieldSink.h>
 #include <tests/support/AllocationCount.h>
-#include <tests/support/RecordingSink.h>
+#include <tests/support/Told.h>
 #include <tests/support/WireBytes.h>
 
 #include <algorithm>
@@ -28,29 +25,12 @@ namespace {
 
 using namespace WireBytes;
 
-ByteStream& appendBadText(ByteStream& out) { return out << number16(1) << byte(0xFF); }
-
-ByteStream& appendPlayer(ByteStream& out, int id) {
-  return out << id << L"nick" << L"city" << 9 << 8 << byte(0) << L"";
-}
-
 ByteStream& appendGame(ByteStream& out, int id, int monetaryUnitId) {
   return out << id << L"game" << number16(2) << number16(9) << number16(4) << number16(monetaryUnitId) << 80 << 6;
 }
 
 ByteStream& appendPokerGame(ByteStream& out, int monetaryUnitId, int tableFlags) {
   return appendGame(out, 7, monetaryUnitId) << byte(1) << byte(2) << number64(100) << number64(200) << byte(tableFlags);
-}
-
-template <class Record>
-std::wstring failureOf(ByteStream in) {
-  Record record;
-  try {
-    record.read(in);
-  } catch (const KVRException& failure) {
-    return failure.getText();
-  }
-  return L"";
 }
 
 // ---- The lobby tree
@@ -106,12 +86,9 @@ TEST(TreeNodeInfo, AnswersForItsBits) {
   ByteStream out;
   appendNode(out, 1, -128, 0b101, 3);
   const auto node = decode<TreeNodeInfo>(out);
-  EXPECT_TRUE(node.isSubscribable());
-  EXPECT_FALSE(node.wasLastSelectedNode());
-  EXPECT_TRUE(node.isPrivate());
-  EXPECT_TRUE(node.isTournamentNode());
-  EXPECT_FALSE(node.isRingGameNode());
-  EXPECT_EQ(node.getNumSubNodes(), 0);
+  EXPECT_EQ(told(node.isSubscribable(), node.wasLastSelectedNode(), node.isPrivate(), node.isTournamentNode(),
+                 node.isRingGameNode(), node.getNumSubNodes()),
+            "1 0 1 1 0 0");
   EXPECT_EQ(TreeNodeInfo(1, 2, true, 3).toDebugString(),
             L"[TreeNodeInfo - iId=1, iNameId=2, iDefaultName=, iPort=3, iNodeType=1, iLobbyType=-1");
 }
@@ -212,25 +189,11 @@ TEST(PokerGameInfo, TakesItsFlagsApart) {
   const PokerGameInfo same(game, game.getGameType(), game.getLimitType(), 100, 200, true, true,
                            PokerGameInfo::GameSpeed{2}, false, true);
   for (const PokerGameInfo& info : {game, same}) {
-    EXPECT_EQ(info.getGameSpeed(), PokerGameInfo::GameSpeed{2});
-    EXPECT_TRUE(info.isPrivate());
-    EXPECT_TRUE(info.isModerated());
-    EXPECT_FALSE(info.iIsBootable());
-    EXPECT_TRUE(info.isNetworkTable());
-    EXPECT_EQ(info.getGameType()->getValue(), GameTypes::AllowedGameType::OMAHA);
-    EXPECT_EQ(info.getLimitType()->getValue(), LimitTypes::AllowedLimitType::NO_LIMIT);
+    EXPECT_EQ(told(info.getGameSpeed(), info.isPrivate(), info.isModerated(), info.iIsBootable(), info.isNetworkTable(),
+                   info.getGameType()->getValue(), info.getLimitType()->getValue()),
+              "2 1 1 0 1 1 2");
     EXPECT_EQ(std::unique_ptr<LobbyNodeInterface>(info.cloneNode())->getLobbyNodeId(), 7);
   }
-}
-
-TEST(PokerGameInfo, IsNotReadBehindABadName) {
-  const WithRecordingSink reports;
-  ByteStream out;
-  appendBadText(out << 7) << number64(1) << number64(1) << number64(1) << number64(1) << number64(1);
-  PokerGameInfo game;
-  EXPECT_FALSE(game.read(out));
-  EXPECT_EQ(out.unreadCount(), 40u);
-  EXPECT_EQ(game.getNrPlayers(), -1);
 }
 
 TEST(GameInfo, IsWrittenWithAWideMonetaryUnit) {
@@ -244,76 +207,7 @@ TEST(GameInfo, IsWrittenWithAWideMonetaryUnit) {
   EXPECT_TRUE(std::ranges::equal(out.bytes(), expected.bytes()));
 }
 
-TEST(LobbyInfo, ThrowsWhereTheStreamMayNotEnd) {
-  ByteStream out;
-  std::size_t ends[3];
-  out << 5;
-  ends[0] = out.bytes().size();
-  appendPlayer(out << byte(1), 11) << number16(3) << number64(500);
-  ends[1] = out.bytes().size();
-  appendPlayer(out << byte(1), 12);
-  ends[2] = out.bytes().size();
-  for (const std::size_t end : ends)
-    EXPECT_EQ(failureOf<LobbyInfo>(ByteStream(out.bytes().first(end))), L"Error when reading bytestream.");
-  const auto lobby = decode<LobbyInfo>(out << L"name");
-  EXPECT_EQ(lobby.getPlayers()[0].getMoneyAtTable(), Money(500, 3));
-  EXPECT_EQ(lobby.toDebugString(),
-            L"[LobbyInfo: id=5, nr players=1, players=[PlayerInGameInfo: ], nr players waiting=1, players waiting="
-                + lobby.getPlayersWaiting()[0].toDebugString() + L", name=name]");
-}
-
-TEST(LobbyInfo, ToleratesABadNameButNoBadPlayer) {
-  const WithRecordingSink reports;
-  ByteStream out, badPlayer;
-  EXPECT_EQ(decode<LobbyInfo>(appendBadText(out << 5 << byte(-1) << byte(0))).getNrPlayers(), 0);
-  appendBadText(badPlayer << 5 << byte(1) << 11);
-  EXPECT_EQ(failureOf<PokerLobbyInfo>(badPlayer), L"Failed to read info object.");
-}
-
-TEST(PokerRulesInfo, KeepsItsChipStackValues) {
-  ByteStream start;
-  start << L"Hold" << number16(2) << number64(1) << number64(20);
-  const auto rulesWith = [&start](std::initializer_list<int> values, int count) {
-    ByteStream out(start);
-    out << count;
-    for (const int value : values) out << number64(value);
-    for (int amount = 3; amount <= 7; ++amount) out << number64(amount);
-    return out << Money(8, 4) << Money(9, 5);
-  };
-  const auto rules = decode<PokerRulesInfo>(rulesWith({10, 11}, 2));
-  EXPECT_EQ(rules.getChipStackValue(1), Money(11, 2));
-  EXPECT_THROW(rules.getChipStackValue(2), OutOfBoundsException);
-  EXPECT_EQ(rules.getTournamentFee(), Money(9, 5));
-  EXPECT_EQ(rules.toDebugString(),
-            L"[PokerRulesInfo: description=Hold, monetary unit: 2, big blind=20, nr chip stack values=2, chip stack "
-            L"values=[AmountInfo: amount=10], [AmountInfo: amount=11], min chip value=[AmountInfo: amount=3], "
-            L"ante=[AmountInfo: amount=4], small blind=[AmountInfo: amount=5], small bet=[AmountInfo: amount=6], big "
-            L"bet=[AmountInfo: amount=7], tourBuyIn=[MoneyInfo: 8 ], tourFee=[MoneyInfo: 9 ]]");
-  EXPECT_EQ(decode<PokerRulesInfo>(rulesWith({}, -1)).getNrChipStackValues(), 0);
-  EXPECT_NE(failureOf<PokerRulesInfo>(rulesWith({}, 100'000'000)), L"");
-}
-
-TEST(GameLists, PrintAndCountTheirItems) {
-  ByteStream games, ids;
-  games << number16(2);
-  const auto list = decode<GameInfoList>(appendGame(appendGame(games, 1, 0), 2, 0));
-  EXPECT_EQ(list.toDebugString(), L"[GameInfoList:" + list[0].toDebugString() + L", " + list[1].toDebugString() + L"]");
-  const auto gameIds = decode<GameIdInfo>(ids << 2 << 40 << 41);
-  EXPECT_EQ(gameIds.getId(1), 41);
-  EXPECT_THROW(gameIds.getId(2), OutOfBoundsException);
-}
-
 // ---- Players
-
-TEST(VIPPlayerInfo, ReadsAGameIdForGamesOnly) {
-  ByteStream atGame, elsewhere;
-  atGame << 1 << true << byte(1) << 77 << 0 << L"vip" << 4;
-  elsewhere << 1 << false << byte(0) << 0 << L"vip" << 4;
-  EXPECT_EQ(decode<VIPPlayerInfo>(atGame).getGameId(), 77);
-  const auto player = decode<VIPPlayerInfo>(elsewhere);
-  EXPECT_EQ(player.getGameId(), -1);
-  EXPECT_EQ(player.toDebugString(), L"[ VIPPlayerInfo - PlayerId=1, VIPType=0 iIsPlaying=0, iName=vip, iVipStatus=4]");
-}
 
 TEST(VIPPlayerInfo, HasAnIconPerBit) {
   const struct {
@@ -397,23 +291,14 @@ TEST_F(MonetaryRecords, DoNotGuessTheTypeOfAnUnknownUnit) {
 
 TEST_F(MonetaryRecords, AnswerDefaultsBeyondTheirEnds) {
   const MonetaryInfo info = monetaryInfo();
-  EXPECT_EQ(info.getMonetaryUnitInfo(1).getId(), 4);
-  EXPECT_EQ(info.getMonetaryUnitInfo(2).getId(), -1);
-  EXPECT_TRUE(info.getMonetaryTypeInfo(1).isRefillable());
-  EXPECT_EQ(info.getMonetaryTypeInfo(-1).getName(), L"");
-  EXPECT_EQ(info.getCurrencyInfo(1).getCutOffAmount(), -1);
-  EXPECT_EQ(info.toDebugString(),
-            L"[MonetaryInfo:[MonetaryUnitInfo: Id=3, MonetaryTypeId=real, CurrencyId=USD], [MonetaryUnitInfo: Id=4, "
-            L"MonetaryTypeId=play, CurrencyId=none], [MonetaryTypeInfo: Id=real, Name=Real, Properties=4, "
-            L"SortingPriority:1], [MonetaryTypeInfo: Id=play, Name=Play, Properties=3, SortingPriority:2], "
-            L"[CurrencyInfo: Id=USD, Prefix=$, Postfix= US, CutOffAmount:100, SortingPriority:1]]");
+  EXPECT_EQ(told(info.getMonetaryUnitInfo(1).getId(), info.getMonetaryUnitInfo(2).getId(),
+                 info.getMonetaryTypeInfo(1).isRefillable(), info.getMonetaryTypeInfo(-1).getName(),
+                 info.getCurrencyInfo(0).getCutOffAmount(), info.getCurrencyInfo(1).getCutOffAmount()),
+            "4 -1 1  100 -1");
 
-  ByteStream out, none;
-  const auto balances = decode<AccountBalanceInfo>(out << byte(2) << Money(1, 3) << Money(2, 4));
-  EXPECT_EQ(balances.getAccountBalance(1), Money(2, 4));
-  EXPECT_EQ(balances.getAccountBalance(5), Money());
-  EXPECT_EQ(balances.toDebugString(), L"[AccountBalanceInfo:[MoneyInfo: 1 ], [MoneyInfo: 2 ]]");
-  EXPECT_EQ(decode<AccountBalanceInfo>(none << byte(-1)).getAccountBalanceCount(), 0);
+  const auto balances = golden<AccountBalanceInfo>();
+  EXPECT_EQ(told(balances.getAccountBalance(1), balances.getAccountBalance(5), balances.getAccountBalance(-1)),
+            "174/-173 0/-1 0/-1");
 }
 
 }  // namespace
