@@ -3,8 +3,6 @@
 
 namespace Tessel {
 
-ClientMessage::~ClientMessage() = default;
-
 // These two stand here, since the handler interface knows messages by name only.
 
 void AbstractClientMessageHandler::handle(AbstractClientMessageHandler& handler, ClientMessage* message) {

@@ -11,7 +11,6 @@ class FieldSink;
 /// Base of every message from a server. A message is a value; one thread at a time uses it.
 class HERALD_API ClientMessage : public StreamReadableObject {
  public:
-  ~ClientMessage() override;
   /// Reads the body, at whose first byte the stream stands, and answers whether it could be read. Throws what its
   /// fields throw.
   bool read(ByteStream& in) override = 0;

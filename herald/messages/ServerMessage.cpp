@@ -4,8 +4,6 @@
 
 namespace Tessel {
 
-ServerMessage::~ServerMessage() = default;
-
 void reportBodyTooLong(std::size_t size) {
   KeystoneException(L"messages/ServerMessage", __LINE__,
                     L"A body of " + std::to_wstring(size) + L" bytes is too long for a request.")

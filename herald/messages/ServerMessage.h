@@ -11,7 +11,6 @@ class FieldSink;
 /// signed 16-bit, the four header bytes not counted), then the body.
 class HERALD_API ServerMessage : public StreamWritableObject {
  public:
-  ~ServerMessage() override;
   /// Appends the whole frame. A request that cannot be written (a text that cannot be encoded, a body of 32,768 bytes
   /// or more) is reported, answers false and leaves the stream as it was.
   bool write(ByteStream& out) const override = 0;

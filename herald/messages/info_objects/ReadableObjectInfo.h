@@ -12,7 +12,6 @@ class FieldSink;
 /// uses it.
 class HERALD_API ReadableObjectInfo : public StreamReadableObject {
  public:
-  ~ReadableObjectInfo() override;
   /// A new copy of the record's own class. The caller owns it.
   virtual ReadableObjectInfo* clone() const = 0;
   /// One line of text for traces.

@@ -23,7 +23,6 @@ namespace Tessel {
 /// The base of a record that is only read.
 class HERALD_API ReadableInfo : public ReadableObjectInfo {
  public:
-  ~ReadableInfo() override;
   /// The number of bytes of the record's wire form.
   virtual int size() const = 0;
 };
@@ -31,7 +30,6 @@ class HERALD_API ReadableInfo : public ReadableObjectInfo {
 /// The base of a record that travels both ways.
 class HERALD_API ReadableWritableInfo : public ReadableObjectInfo, public WritableObjectInfo {
  public:
-  ~ReadableWritableInfo() override;
   std::wstring toDebugString() const override = 0;
   void describe(FieldSink& sink) const override = 0;
 };

@@ -10,7 +10,6 @@ class FieldSink;
 /// Base of every record that the client sends.
 class HERALD_API WritableObjectInfo : public StreamWritableObject {
  public:
-  ~WritableObjectInfo() override;
   /// One line of text for traces.
   virtual std::wstring toDebugString() const = 0;
   /// The number of bytes that `write` appends.

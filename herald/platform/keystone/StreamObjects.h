@@ -8,7 +8,7 @@ class ByteStream;
 /// An object that reads itself from a stream.
 class HERALD_API StreamReadableObject {
  public:
-  virtual ~StreamReadableObject();
+  virtual ~StreamReadableObject() = default;
   /// Reads the object and answers whether it could be read. A number that the stream is too short for throws
   /// `KeystoneException`.
   virtual bool read(ByteStream& in) = 0;
@@ -24,7 +24,7 @@ class HERALD_API StreamReadableObject {
 /// An object that appends itself to a stream.
 class HERALD_API StreamWritableObject {
  public:
-  virtual ~StreamWritableObject();
+  virtual ~StreamWritableObject() = default;
   /// Appends the object and answers whether it could be written.
   virtual bool write(ByteStream& out) const = 0;
 

@@ -1,8 +1,0 @@
-#include <herald/platform/keystone/StreamObjects.h>
-
-namespace Tessel {
-
-StreamReadableObject::~StreamReadableObject() = default;
-StreamWritableObject::~StreamWritableObject() = default;
-
-}  // namespace Tessel
