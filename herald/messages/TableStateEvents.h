@@ -26,7 +26,6 @@ class HERALD_API ClientTableInfo : public RecordMessage<ClientTableInfo, TableIn
 class HERALD_API ClientOpenTableReq : public RecordMessage<ClientOpenTableReq, InfoVector> {
  public:
   static constexpr auto TEXT = L"[ClientOpenTableReq:%s]";
-
   int numInfos() const { return body().size(); }
   /// An index outside 0 to `numInfos()` - 1 throws `OutOfBoundsException`, an entry of another class `std::bad_cast`.
   const PokerGameInfo& getPokerGameInfo(int i) const { return dynamic_cast<const PokerGameInfo&>(body()[i]); }
