@@ -16,25 +16,29 @@ namespace {
 
 /// What both ways into the factory make of a body.
 struct Outcome {
-  Outcome(int id, std::string_view notation) {
+  Outcome(int id, std::string_view notation, DecodeOutcome outcome, std::size_t bytesLeft) {
+    SCOPED_TRACE(id);
     const auto bytes = toBytes(notation);
     const WithRecordingSink recording;
     ByteStream in(bytes);
     message.reset(ClientMessageFactory::byteArrayToMessage(id, in));
     reports = recording.sink->reports;
+    EXPECT_EQ(in.unreadCount(), bytesLeft);
 
     const WithRecordingSink recordingAgain;
     ByteStream again(bytes);
-    decoded = ClientMessageFactory::decode(id, again);
+    const DecodedMessage decoded = ClientMessageFactory::decode(id, again);
+    reason = decoded.reason;
+    EXPECT_EQ(decoded.outcome, outcome);
     EXPECT_EQ(decoded.message != nullptr, message != nullptr);
-    EXPECT_EQ(decoded.bytesLeft, in.unreadCount());
-    EXPECT_EQ(decoded.bytesRead, bytes.size() - in.unreadCount());
+    EXPECT_EQ(decoded.bytesLeft, bytesLeft);
+    EXPECT_EQ(decoded.bytesRead, bytes.size() - bytesLeft);
     EXPECT_EQ(recordingAgain.sink->reports.size(), reports.size());
   }
 
   std::unique_ptr<ClientMessage> message;
   std::vector<KVRException> reports;
-  DecodedMessage decoded;
+  std::wstring reason;
 };
 
 TEST(ClientMessageTable, HoldsEveryIdOnce) {
@@ -53,64 +57,45 @@ TEST(ClientMessageTable, HoldsEveryIdOnce) {
 
 TEST(ClientMessageFactory, CreatesNothingForThreeIds) {
   for (const int id : {-21, 36, 209}) {
-    const Outcome outcome(id, "0102030405");
+    const Outcome outcome(id, "0102030405", DecodeOutcome::NO_MESSAGE, 5);
     EXPECT_FALSE(outcome.message);
     EXPECT_TRUE(outcome.reports.empty());
-    EXPECT_EQ(outcome.decoded.outcome, DecodeOutcome::NO_MESSAGE);
-    EXPECT_EQ(outcome.decoded.bytesLeft, 5u);
-    EXPECT_EQ(outcome.decoded.reason, L"");
+    EXPECT_EQ(outcome.reason, L"");
   }
+}
+
+void expectReport(const Outcome& outcome, const std::wstring& text, const std::wstring& detail) {
+  EXPECT_FALSE(outcome.message);
+  ASSERT_EQ(outcome.reports.size(), 1u);
+  EXPECT_EQ(outcome.reports[0].getFile(), L"messages/ClientMessageFactory");
+  EXPECT_GT(outcome.reports[0].getLine(), 0);
+  EXPECT_EQ(outcome.reports[0].getText(), text);
+  EXPECT_EQ(outcome.reports[0].getDetail(), detail + text);
 }
 
 TEST(ClientMessageFactory, ReportsAnUnknownId) {
   for (const int id : {0, 3, 4, 14, 600, -1, -95, 521, -22, INT_MAX, INT_MIN}) {
-    const Outcome outcome(id, "01");
-    const std::wstring text = L"Unknown casino message (" + std::to_wstring(id) + L")";
-    EXPECT_FALSE(outcome.message);
-    EXPECT_EQ(outcome.decoded.outcome, DecodeOutcome::UNKNOWN_ID);
-    EXPECT_EQ(outcome.decoded.bytesLeft, 1u);
-    EXPECT_EQ(outcome.decoded.reason, text);
-    ASSERT_EQ(outcome.reports.size(), 1u);
-    EXPECT_EQ(outcome.reports[0].getFile(), L"messages/ClientMessageFactory");
-    EXPECT_GT(outcome.reports[0].getLine(), 0);
-    EXPECT_EQ(outcome.reports[0].getText(), text);
-    EXPECT_EQ(outcome.reports[0].getDetail(), L"Received " + text);
+    const Outcome outcome(id, "01", DecodeOutcome::UNKNOWN_ID, 1);
+    expectReport(outcome, L"Unknown casino message (" + std::to_wstring(id) + L")", L"Received ");
+    EXPECT_EQ(outcome.reason, L"Unknown casino message (" + std::to_wstring(id) + L")");
   }
 }
 
+// A base library exception, one of the language, and the end of the stream.
 TEST(ClientMessageFactory, ReportsAReadThatThrows) {
-  // A base library exception, one of the language, and the end of the stream.
-  const struct {
-    int id;
-    std::string_view bytes;
-    std::wstring text;
-    std::size_t left;
-  } cases[] = {
-      {35, "00000001 0001 \"x\" 00", L"[ClientOpenTableReq:[InfoVector: ]]", 1},
-      {17, "80 00", L"[ClientWin]", 1},
-      {44, "00000007 03 0000",
-       L"[ClientVoteCast: VoteCastInfo: [VoteCastInfo: PlayerId: 7, Status: 3, NumberOfVotes: -1]]", 2},
-  };
-  for (const auto& [id, bytes, text, left] : cases) {
-    const Outcome outcome(id, bytes);
-    EXPECT_FALSE(outcome.message);
-    EXPECT_EQ(outcome.decoded.outcome, DecodeOutcome::READ_THREW);
-    EXPECT_EQ(outcome.decoded.bytesLeft, left);
-    EXPECT_NE(outcome.decoded.reason, L"");
-    ASSERT_EQ(outcome.reports.size(), 1u);
-    EXPECT_EQ(outcome.reports[0].getFile(), L"messages/ClientMessageFactory");
-    EXPECT_EQ(outcome.reports[0].getText(), text);
-    EXPECT_EQ(outcome.reports[0].getDetail(), L"Unknown error when reading message " + text);
-  }
-  EXPECT_EQ(Outcome(35, "00000001 0001 \"x\" 00").decoded.reason, L"Unknown info object type.");
+  const std::wstring detail = L"Unknown error when reading message ";
+  const Outcome unknown(35, "00000001 0001 \"x\" 00", DecodeOutcome::READ_THREW, 1);
+  expectReport(unknown, L"[ClientOpenTableReq:[InfoVector: ]]", detail);
+  EXPECT_EQ(unknown.reason, L"Unknown info object type.");
+  expectReport(Outcome(17, "80 00", DecodeOutcome::READ_THREW, 1), L"[ClientWin]", detail);
+  expectReport(Outcome(44, "00000007 03 0000", DecodeOutcome::READ_THREW, 2),
+               L"[ClientVoteCast: VoteCastInfo: [VoteCastInfo: PlayerId: 7, Status: 3, NumberOfVotes: -1]]", detail);
 }
 
 TEST(ClientMessageFactory, ReturnsAMessageWhoseReadAnsweredFalse) {
-  const Outcome outcome(5, "00000009 00000000 AB");
+  const Outcome outcome(5, "00000009 00000000 AB", DecodeOutcome::READ_ANSWERED_FALSE, 1);
   ASSERT_TRUE(outcome.message);
   EXPECT_TRUE(outcome.reports.empty());
-  EXPECT_EQ(outcome.decoded.outcome, DecodeOutcome::READ_ANSWERED_FALSE);
-  EXPECT_EQ(outcome.decoded.bytesLeft, 1u);
   EXPECT_EQ(valuesOf(*outcome.message), "9 0 ()");
 }
 

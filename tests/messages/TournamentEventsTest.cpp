@@ -1,0 +1,359 @@
+#include <gtest/gtest.h>
+#include <herald/messages/ClientMessageFactory.h>
+#include <herald/messages/RebuyEvents.h>
+#include <herald/messages/TournamentCreationEvents.h>
+#include <herald/messages/TournamentLobbyEvents.h>
+#include <herald/platform/keystone/Exceptions.h>
+#include <herald/platform/keystone/UTFEncoder.h>
+#include <herald/wire/WireTypes.h>
+#include <tests/support/Golden.h>
+#include <tests/support/Notation.h>
+#include <tests/support/RecordingSink.h>
+#include <tests/support/WireBytes.h>
+
+#include <limits>
+#include <stdexcept>
+#include <tuple>
+
+namespace Tessel {
+namespace {
+
+using namespace WireBytes;
+using std::tuple;
+
+template <class T>
+T read(std::string_view notation) {
+  return decode<T>(ByteStream(toBytes(notation)));
+}
+
+/// The first golden case of the class.
+template <class T>
+T golden() {
+  return decode<T>(ByteStream(goldenCase(typeName<T>()).bytes));
+}
+
+template <class Record>
+Record decodeByte(int value) {
+  ByteStream body;
+  return decode<Record>(body << byte(value));
+}
+
+// Progress
+
+TEST(TourLevelInfo, LastsATimeOrANumberOfHandsOrForeverAndUsesAmountsAboveZero) {
+  using enum TournamentLevelInformation::DurationKind;
+  const struct {
+    std::int64_t ms;
+    int hands;
+    TournamentLevelInformation::DurationKind kind;
+    std::int64_t smallBlind, ante;
+  } cases[] = {{-1, -1, UNLIMITED, 50, 0},
+               {-1, 10, HANDS, 0, 10},
+               {900'000, 10, MILLISECONDS, std::numeric_limits<std::int64_t>::min(), 1},
+               {0, -1, MILLISECONDS, 1, std::numeric_limits<std::int64_t>::min()}};
+  for (const auto& [ms, hands, kind, smallBlind, ante] : cases) {
+    SCOPED_TRACE(testing::Message() << ms << " ms, " << hands << " hands");
+    ByteStream body;
+    body << number16(6) << ms << number16(hands) << Money(smallBlind, 2) << Money(100, 2) << Money(ante, 2);
+    const auto level = decode<TourLevelInfo>(body);
+    EXPECT_EQ(level.isDurationInfinite(), kind == UNLIMITED);
+    EXPECT_EQ(level.isDurationInMs(), kind == MILLISECONDS);
+    const TournamentLevelInformation info = level.getInfo();
+    EXPECT_EQ(info.getLevelNumber(), 6);
+    EXPECT_EQ(info.getDurationKind(), kind);
+    EXPECT_EQ(info.getDurationInMs(), kind == MILLISECONDS ? ms : -1);
+    EXPECT_EQ(info.getDurationInHands(), kind == HANDS ? hands : -1);
+    EXPECT_EQ(info.hasBlinds(), smallBlind > 0);
+    EXPECT_EQ(info.hasAnte(), ante > 0);
+    if (smallBlind > 0) {
+      EXPECT_EQ(info.getBlinds(), TournamentBlind(Money(smallBlind, 2), Money(100, 2)));
+    }
+    if (ante > 0) {
+      EXPECT_EQ(info.getAnte(), TournamentAnte(Money(ante, 2)));
+    }
+  }
+}
+
+TEST(BreakMessages, LogThemselvesOnceTheyAreReadWhole) {
+  for (const std::string name : {"TourBreakInfo", "TourBreakEnd", "TourBreakNotification"}) {
+    SCOPED_TRACE(name);
+    const GoldenCase& golden = goldenCase(name);
+    const WithRecordingSink recording;
+    const auto& lines = recording.sink->logLines;
+    for (std::size_t size = 0; size <= golden.bytes.size(); ++size) {
+      EXPECT_TRUE(lines.empty());
+      ByteStream in(std::span(golden.bytes).first(size));
+      ClientMessageFactory::decode(*golden.id, in);
+    }
+    ASSERT_EQ(lines.size(), 1u);
+    EXPECT_EQ(UTFEncoder::toUTF8(lines[0].text), golden.text);
+    EXPECT_EQ(UTFEncoder::toUTF8(lines[0].file), "messages/TournamentMessages/" + name);
+    EXPECT_EQ(lines[0].level, 5);
+  }
+}
+
+TEST(BreakMessages, TellWhetherABreakFollowsAndHaveTheSizeOfTheProtocol) {
+  const WithRecordingSink recording;
+  for (const std::int64_t ms : {-2, -1, 0}) {
+    ByteStream body;
+    EXPECT_EQ(decode<TourBreakNotification>(body << ms << number64(1)).hasMoreBreaks(), ms != -1) << ms;
+  }
+  EXPECT_EQ(TourBreakInfo().size(), 32);
+  EXPECT_EQ(TourSynchInfo().size(), 1);
+}
+
+TEST(CodeMessages, AnswerAnUnknownCodeWithTheConstantOfMinusOne) {
+  for (const auto& [code, value] : {std::pair(-1, -1), {0, 0}, {4, 4}, {100, -1}, {-2, -1}, {-128, -1}}) {
+    SCOPED_TRACE(code);
+    const WithRecordingSink recording;
+    EXPECT_EQ(static_cast<int>(decodeByte<TableNotification>(code).getEvent().getValue()), value);
+    EXPECT_EQ(static_cast<int>(decodeByte<TourSynchInfo>(code).getCode().getValue()), value);
+    EXPECT_EQ(recording.sink->reports.size(), 0u);
+    EXPECT_EQ(static_cast<int>(decodeByte<TourNotification>(code).getEvent().getValue()), value);
+    EXPECT_EQ(recording.sink->reports.size(), code == value ? 0u : 1u);
+    EXPECT_EQ(static_cast<int>(decodeByte<TourRebuyFailedMsg>(code).getReason().getValue()), value);
+    EXPECT_EQ(recording.sink->reports.size(), code == value ? 0u : 2u);
+  }
+}
+
+TEST(VIPFlag, IsBitZeroOfTheAttributes) {
+  for (const auto& [attributes, isVIP] : {std::pair(0, false), {1, true}, {2, false}, {-1, true}}) {
+    SCOPED_TRACE(attributes);
+    ByteStream ranked, player, table;
+    ranked << 7 << L"Ann" << 3 << Money(1'500, 2) << attributes;
+    player << 7 << L"Ann" << byte(attributes);
+    table << 3 << L"Table 3" << number16(-1) << byte(attributes) << Money(1, 2) << Money(3, 4);
+    EXPECT_EQ(decode<TourUserRanking>(ranked).getUserRanking(), RankedPlayer(7, 3, L"Ann", Money(1'500, 2), isVIP));
+    EXPECT_EQ(decode<LobbyPlayerInfo>(player).isVIP(), isVIP);
+    EXPECT_EQ(decode<LobbyTableInfo>(table).isVIPTable(), isVIP);
+  }
+}
+
+const TsArray<RankedPlayer> RANKING = {RankedPlayer(3551, -1, L"\u00C7elik", Money(3550, 35), true),
+                                       RankedPlayer(-3552, 2, L"", Money(-3560, -36), false)};
+
+TEST(ProgressMessages, HandOutWhatTheyCarry) {
+  const auto levels = golden<TourNextLevelInfoMsg>();
+  EXPECT_EQ(levels.getCurrentLevelInfo().getCurrentLevel(), 3591);
+  EXPECT_EQ(levels.getNextLevelInfo().getCurrentLevel(), -3561);
+
+  const auto ranking = golden<TourPlayerRankingListInfo>();
+  ASSERT_EQ(ranking.getNumberRankedPlayers(), 2);
+  EXPECT_EQ(ranking.getRankedPlayer(1), RANKING[1]);
+  EXPECT_EQ(ranking.getRankedPlayers(), RANKING);
+  for (const int outside : {-1, 2}) EXPECT_THROW(ranking.getRankedPlayer(outside), std::invalid_argument);
+
+  const auto knockout = golden<TourKnockoutInfo>();
+  EXPECT_EQ(tuple(knockout.getNumberOfMonetaryPrizes(), knockout.getNumberOfTicketPrizes()), tuple(2, 2));
+  EXPECT_EQ(knockout.getMoneyPrize(1), Money(620, -62));
+  EXPECT_EQ(knockout.getTicketPrize(0), TournamentTicket(L"Ticket \u21161"));
+  EXPECT_THROW(knockout.getMoneyPrize(2), std::invalid_argument);
+  EXPECT_THROW(knockout.getTicketPrize(-1), std::invalid_argument);
+}
+
+// The lobby of a tournament
+
+TEST(TournamentReplies, EchoTheRequestWithAStatus) {
+  const TournamentJoinRequest request = golden<TournamentLobbyReply>().getJoinReq();
+  EXPECT_EQ(tuple(request.getPlayerId(), request.getTournamentId(), request.getTableId(), request.getReplyStatus(),
+                  request.getPassword()),
+            tuple(-2101, 2102, -2103, -4, L"hemligt\u20AC"));
+  EXPECT_EQ(golden<TournamentJoinReplyMsg>().getJoinReq().getTableId(), 3083);
+  EXPECT_EQ(golden<TournamentUnjoinReplyMsg>().getJoinReq().getTableId(), -3093);
+}
+
+TEST(WinClientTournamentInfo, HasItsBigBlindsInTheUnitOfTheStartingChipsAndItsTypesFromTheFactories) {
+  const auto info = golden<TournamentDataWinClientMsg>().getTournamentInfo();
+  EXPECT_EQ(info.getBuyIn(), Money(-310, 31));
+  EXPECT_EQ(info.getFee(), Money(320, 32));
+  EXPECT_EQ(info.getPrizePool(), Money(330, -33));
+  EXPECT_EQ(info.getStartingChips(), Money(3400, 34));
+  EXPECT_EQ(info.getGameType()->getValue(), GameTypes::AllowedGameType{2});
+  EXPECT_EQ(info.getLimitType()->getValue(), LimitTypes::AllowedLimitType::POT_LIMIT);
+  ASSERT_EQ(info.numberOfBigBlinds(), 2);
+  EXPECT_EQ(info.bigBlind(1), Money(-200, 34));
+  for (const int outside : {-1, 2}) EXPECT_THROW(info.bigBlind(outside), std::invalid_argument);
+
+  const WinClientTournamentInfo fresh;
+  EXPECT_EQ(fresh.getGameType()->getValue(), GameTypes::AllowedGameType::UNKNOWN);
+  EXPECT_EQ(fresh.getLimitType()->getValue(), LimitTypes::AllowedLimitType::UNKNOWN);
+  for (const Money& amount : {fresh.getBuyIn(), fresh.getFee(), fresh.getPrizePool(), fresh.getStartingChips()})
+    EXPECT_EQ(amount, Money());
+}
+
+TEST(LobbyLists, HandOutTheChangesInOrder) {
+  const auto players = golden<LobbyPlayerList>();
+  ASSERT_EQ(players.getRegisteredPlayers().size(), 2);
+  EXPECT_EQ(players.getRegisteredPlayers()[0].getPlayerName(), L"S\u00F8ren");
+  EXPECT_EQ(players.getRegisteredPlayers()[1].getPlayerId(), -3702);
+  EXPECT_EQ(players.getUnregisteredPlayers(), (TsArray<int>{3703, -3704}));
+
+  const auto tables = golden<LobbyTableList>();
+  ASSERT_EQ(tables.getUpdatedTables().size(), 2);
+  const LobbyTableInfo& table = tables.getUpdatedTables()[0];
+  EXPECT_EQ(table.getNumberOfSeatedPlayers(), -6);
+  EXPECT_EQ(table.getMinChipStackAtTable(), Money(-370, 37));
+  EXPECT_EQ(table.getMaxChipStackAtTable(), Money(380, 38));
+  EXPECT_EQ(tables.getRemovedTables(), (TsArray<int>{-3713, 3714}));
+
+  const auto tours = golden<EnteredTourListMsg>();
+  ASSERT_EQ(tours.getNumberTours(), 2);
+  EXPECT_EQ(tours.getEnteredTour(1).getNodeId(), 3244);
+  for (const int outside : {-1, 2}) EXPECT_THROW(tours.getEnteredTour(outside), std::invalid_argument);
+
+  const auto ranking = golden<LobbyTablePlayerList>();
+  EXPECT_EQ(ranking.getTableId(), -372);
+  EXPECT_EQ(ranking.getRankedPlayers(), RANKING);
+}
+
+TEST(Lists, RefuseANegativeCount) {
+  EXPECT_THROW(read<TourPlayerRankingListInfo>("FFFF"), std::invalid_argument);
+  EXPECT_THROW(read<EnteredTourListMsg>("FFFF"), std::invalid_argument);
+  for (const auto* const counts : {"FFFF 0000", "0000 FFFF"}) {
+    EXPECT_THROW(read<LobbyPlayerList>(counts), std::invalid_argument);
+    EXPECT_THROW(read<LobbyTableList>(counts), std::invalid_argument);
+  }
+}
+
+// Rebuys
+
+TEST(RebuyMessages, TellChipsAndCostApart) {
+  const auto message = golden<TournamentRebuyQueryMsg>();
+  const TourRebuyQuery& query = message.getRebuyQuery();
+  EXPECT_EQ(tuple(query.getTournamentId(), query.getBoughtChips(), query.getRebuyCost(), query.isAddon()),
+            tuple(3141, Money(-3142, 31), Money(3143, -32), true));
+  const auto notification = golden<TourPlayerRebuyNotificationMsg>();
+  const TourPlayerRebuyNotification& rebuy = notification.getPlayerRebuyNotification();
+  EXPECT_EQ(tuple(rebuy.getPlayerName(), rebuy.getBoughtChips(), rebuy.getCost(), rebuy.wasAddon()),
+            tuple(L"\u00DCmit", Money(-3753, 3752), Money(3755, -3754), true));
+}
+
+TEST(TourRebuyNotification, HasEndedBelowZero) {
+  constexpr auto LOWEST = std::numeric_limits<std::int64_t>::min();
+  for (const std::int64_t duration : {number64(0), number64(-1), LOWEST, number64(5'000'000'000)}) {
+    ByteStream body;
+    const auto message = decode<TournamentRebuyNotificationMsg>(body << duration << false << 3);
+    EXPECT_EQ(message.getRebuyNotification().getRebuyPeriodMsRemaining(), duration);
+    EXPECT_EQ(message.getRebuyNotification().hasRebuyPeriodEnded(), duration < 0) << duration;
+    EXPECT_EQ(message.getRebuyNotification().getNumberOfRebuysRemaining(), 3);
+  }
+}
+
+TEST(TournamentPlayerNoRebuyNotification, WasTheAddonForOneOnly) {
+  for (const int value : {-1, 0, 1, 2}) {
+    ByteStream body;
+    EXPECT_EQ(decode<TournamentPlayerNoRebuyNotification>(body << 7 << byte(value)).wasAddon(), value == 1) << value;
+  }
+}
+
+TEST(TournamentPendingRebuysMsg, HandsOutThePlayerIds) {
+  const auto pending = golden<TournamentPendingRebuysMsg>();
+  ASSERT_EQ(pending.getNumberOfPlayers(), 2);
+  EXPECT_EQ(pending.getPlayerId(1), 7);
+  for (const int outside : {-1, 2}) EXPECT_THROW(pending.getPlayerId(outside), OutOfBoundsException);
+  const auto none = read<TournamentPendingRebuysMsg>("FFFF");
+  EXPECT_EQ(none.getNumberOfPlayers(), -1);
+  EXPECT_THROW(none.getPlayerId(0), OutOfBoundsException);
+}
+
+// Private tournaments
+
+TEST(PrivateTourLimitTypes, ListsNoLimitBeforePotLimit) {
+  using enum LimitTypes::AllowedLimitType;
+  using Types = TsArray<LimitTypes::AllowedLimitType>;
+  const Types all = {LIMIT, NO_LIMIT, POT_LIMIT, RAISE_FOLD};
+  const std::pair<int, Types> cases[] = {
+      {0, {}}, {1, {LIMIT}}, {6, {NO_LIMIT, POT_LIMIT}}, {8, {RAISE_FOLD}}, {15, all}, {16, {}}, {-1, all}};
+  for (const auto& [mask, types] : cases) {
+    SCOPED_TRACE(mask);
+    const auto limits = decodeByte<PrivateTourLimitTypes>(mask);
+    EXPECT_EQ(limits.getLimitTypes(), types);
+    EXPECT_EQ(limits.getType(), mask);
+    EXPECT_EQ(limits.getIsLimit(), (mask & 1) != 0);
+    EXPECT_EQ(limits.getIsPotLimit(), (mask & 2) != 0);
+    EXPECT_EQ(limits.getIsNoLimit(), (mask & 4) != 0);
+    EXPECT_EQ(limits.getIsRaiseFold(), (mask & 8) != 0);
+  }
+}
+
+TEST(PrivateTourMasks, HaveABitForEachKnownType) {
+  for (const auto& [value, limitMask, typeMask] :
+       {tuple(-1, 0, 0), {0, 1, 1}, {1, 2, 2}, {2, 4, 0}, {3, 8, 0}, {4, 0, 0}, {7, 0, 0}}) {
+    SCOPED_TRACE(value);
+    EXPECT_EQ(PrivateTourLimitTypes::convertFromInternalTourType(LimitTypes::AllowedLimitType{value}), limitMask);
+    EXPECT_EQ(PrivateTourType::convertFromInternalTourType(Tourney::TournamentType{value}), typeMask);
+  }
+  EXPECT_TRUE(decodeByte<PrivateTourType>(1).getIsSNG());
+  EXPECT_FALSE(decodeByte<PrivateTourType>(1).getIsScheduled());
+  EXPECT_TRUE(decodeByte<PrivateTourType>(-2).getIsScheduled());
+}
+
+TEST(TournamentCreationRules, HandsOutWhatIsAllowed) {
+  ByteStream in(goldenCase("TournamentCreationRulesReply").bytes);
+  const TournamentCreationRules allowed(in);
+  EXPECT_EQ(valuesOf(golden<TournamentCreationRulesReply>().getRules()), valuesOf(allowed));
+  EXPECT_TRUE(allowed.getTournamentTypes().getIsScheduled());
+
+  const PrivateTourGameType& game = allowed.getGameTypes().getPrivateTourGameType(0);
+  EXPECT_EQ(game.getGameType(), GameTypes::AllowedGameType{3});
+  EXPECT_EQ(game.getLimit().getType(), 10);
+  EXPECT_EQ(game.getSeats().getPrivateTourSeatsPerTableType(1).getNumSeats(), -9);
+
+  ASSERT_EQ(allowed.getNumberOfRebuyStructures(), 2);
+  EXPECT_EQ(allowed.getRebuyStructureType(0).getValue(), AllowedRebuyStructure::REBUYS);
+  EXPECT_EQ(allowed.getRebuyStructureType(1).getValue(), AllowedRebuyStructure::UNKNOWN);
+
+  const auto& inUnit = allowed.getBuyInFees().getPrivateTourMonetaryBuyInFeeType(0);
+  EXPECT_EQ(inUnit.getMonetaryUnitId(), 231);
+  const auto& buyInFees = inUnit.getPrivateTourMonetaryBuyInFeeType();
+  EXPECT_EQ(buyInFees.getPrivateTourBuyInFeeType(0).toDebugString(),
+            L"[PrivateTourBuyInFeeType: iId=1, iBuyIn=-232, iFee=233]");
+
+  ASSERT_EQ(allowed.getNumberOfBlindLevelSpeeds(), 2);
+  const BlindLevelSpeedInfo& speed = allowed.getBlindLevelSpeedInfo(0);
+  EXPECT_EQ(speed.getBlindLevelSpeed().getValue(), AllowedBlindLevelSpeed::UNKNOWN);
+  EXPECT_EQ(speed.toDebugString(),
+            L"[BlindLevelSpeedInfo: Id=237, BlindSpeed=-3, StartingChipStack=[MoneyInfo: -239 ]]");
+
+  ASSERT_EQ(allowed.getNumberOfPrizeStructures(), 2);
+  EXPECT_EQ(allowed.getPrizeStructureType(0).getValue(), AllowedPrizeStructureType{5});
+
+  const auto& intervals = allowed.getStartTimeIntervals();
+  EXPECT_EQ(intervals.getPrivateTourTimeIntervalType(0).toDebugString(),
+            L"[PrivateTourTimeIntervalType: iStartTime=245, iEndTime=-246]");
+
+  ASSERT_EQ(allowed.getNumberOfLanguages(), 2);
+  EXPECT_EQ(allowed.getLanguageCode(0), L"sv");
+
+  EXPECT_THROW(allowed.getRebuyStructureType(2), OutOfBoundsException);
+  EXPECT_THROW(allowed.getBlindLevelSpeedInfo(-1), OutOfBoundsException);
+  EXPECT_THROW(allowed.getLanguageCode(2), OutOfBoundsException);
+  EXPECT_THROW(allowed.getGameTypes().getPrivateTourGameType(2), OutOfBoundsException);
+
+  const std::pair<std::wstring, std::wstring> lists[] = {
+      {L"PrivateTourGameTypeList", allowed.getGameTypes().toDebugString()},
+      {L"PrivateTourSeatsPerTableTypeList", game.getSeats().toDebugString()},
+      {L"PrivateTourTimeIntervalTypeList", intervals.toDebugString()},
+      {L"PrivateTourBuyInFeeTypeList", buyInFees.toDebugString()},
+      {L"PrivateTourMonetaryBuyInFeeTypeList", allowed.getBuyInFees().toDebugString()},
+  };
+  for (const auto& [name, text] : lists)
+    EXPECT_EQ(text, L"[" + name + L": Obs, not empty, just not displaying all since list might be too long]");
+}
+
+TEST(CreationReplies, HandOutTheServersCodesWithTheirSign) {
+  EXPECT_EQ(golden<CancelTourReplyMsg>().getReply().getCancelReply(), -31);
+  EXPECT_EQ(golden<StartTournamentReplyMsg>().getReply().getStartResult(), -32);
+  EXPECT_EQ(decodeByte<TourCreationRulesFail>(-7).getFailCode(), -7);
+  EXPECT_FALSE(CreateTourReply().isCreationOk());
+  using Error = AllowedCreatePrivateTournamentError;
+  for (const auto& [result, error] :
+       {std::pair(-1, Error::UNKNOWN), {0, Error::NONE}, {2, Error::NAME_IN_USE}, {100, Error::UNKNOWN}}) {
+    const auto message = decodeByte<CreateTourReplyMsg>(result);
+    EXPECT_EQ(message.getReply().isCreationOk(), result == 0) << result;
+    EXPECT_EQ(message.getReply().getErrorType().getValue(), error) << result;
+  }
+}
+
+}  // namespace
+}  // namespace Tessel
