@@ -50,15 +50,8 @@ TEST(TournamentRegisteredPlayers, TellsWhatABatchTouched) {
   ClearTournamentRegisteredPlayersModifier().modify(players);
   EXPECT_EQ(players.getModifiedPlayers(), (Ids{1, 3}));
   EXPECT_FALSE(players.containsRegisteredPlayer(3));
-  try {
-    static_cast<void>(players.getRegisteredPlayer(42));
-    ADD_FAILURE();
-  } catch (const NullPointerException& failure) {
-    EXPECT_EQ(failure.getFile(), L"SpecificTournamentModel/TournamentRegisteredPlayers");
-    EXPECT_EQ(failure.getLine(), 51);
-    EXPECT_EQ(failure.getText(), L"id");
-    EXPECT_EQ(failure.getDetail(), L"42");
-  }
+  expectFailure<NullPointerException>([&] { static_cast<void>(players.getRegisteredPlayer(42)); },
+                                      L"TournamentRegisteredPlayers", 51, L"id", L"42");
 }
 
 TEST(TournamentTables, AnUpdateEmptiesTheRankedPlayersAndAbsentTablesAreRefused) {
@@ -67,7 +60,7 @@ TEST(TournamentTables, AnUpdateEmptiesTheRankedPlayersAndAbsentTablesAreRefused)
   ConcreteTournamentTablesModifier(updated, {}).modify(tables);
   tables.setRankedPlayers(4, {rankedPlayer(1, 1)});
   EXPECT_EQ(tables.getTable(4).getRankedPlayers().size(), 1);
-  EXPECT_EQ(tables.getTable(4).getTableName(), L"Table 4");
+  EXPECT_EQ(tables.getTable(4).getTableName(), L"Table");
   EXPECT_EQ(tables.getTable(4).getNumberOfSeatedPlayers(), 9);
   EXPECT_TRUE(tables.getTable(4).isVIPTable());
   EXPECT_EQ(tables.getTable(4).getMaxChipStack(), Money(200, 1));
@@ -75,21 +68,12 @@ TEST(TournamentTables, AnUpdateEmptiesTheRankedPlayersAndAbsentTablesAreRefused)
   EXPECT_TRUE(tables.getTable(4).getRankedPlayers().empty());
   EXPECT_EQ(tables.getModifiedTables(), (Ids{4, 4}));
 
-  const std::pair<std::function<void()>, int> refusals[] = {
-      {[&] { static_cast<void>(tables.getTable(7)); }, 52},
-      {[&] { tables.setRankedPlayers(7, {}); }, 106},
-      {[&] { tables.clearRankedPlayers(7); }, 122},
+  const auto expectAbsent = [](const std::function<void()>& action, int line) {
+    expectFailure<ObjectNotFoundException>(action, L"TournamentTables", line, L"Tournament table with id 7");
   };
-  for (const auto& [refused, line] : refusals) {
-    try {
-      refused();
-      ADD_FAILURE() << line;
-    } catch (const ObjectNotFoundException& failure) {
-      EXPECT_EQ(failure.getFile(), L"SpecificTournamentModel/TournamentTables");
-      EXPECT_EQ(failure.getText(), L"Tournament table with id 7");
-      EXPECT_EQ(failure.getLine(), line);
-    }
-  }
+  expectAbsent([&] { static_cast<void>(tables.getTable(7)); }, 52);
+  expectAbsent([&] { tables.setRankedPlayers(7, {}); }, 106);
+  expectAbsent([&] { tables.clearRankedPlayers(7); }, 122);
 }
 
 TEST(TournamentRebuyModel, FollowsTheTermsTheUserAndThePeriods) {

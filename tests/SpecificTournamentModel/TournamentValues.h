@@ -1,12 +1,13 @@
 #pragma once
+#include <gtest/gtest.h>
 #include <herald/messages/info_objects/LobbyPlayerInfo.h>
 #include <herald/messages/info_objects/LobbyTableInfo.h>
-#include <herald/messages/info_objects/MoneyInfo.h>
-#include <herald/messages/info_objects/TsString.h>
-#include <herald/platform/keystone/ByteStream.h>
 #include <herald/platform/keystone/RankedPlayer.h>
 #include <herald/platform/keystone/TsArray.h>
+#include <tests/support/WireBytes.h>
 
+#include <functional>
+#include <string>
 #include <vector>
 
 namespace Tessel {
@@ -22,26 +23,32 @@ inline std::vector<int> playerIds(const TsArray<RankedPlayer>& players) {
 }
 
 inline LobbyPlayerInfo lobbyPlayer(int playerId) {
+  using namespace WireBytes;
   ByteStream body;
-  body << playerId;
-  TsString(L"Player " + std::to_wstring(playerId)).write(body);
-  body << std::int8_t{0};
-  LobbyPlayerInfo player;
-  player.read(body);
-  return player;
+  return decode<LobbyPlayerInfo>(body << playerId << L"Player" << byte(0));
 }
 
 /// A VIP table of nine players with 100 to 200 chips.
 inline LobbyTableInfo lobbyTable(int tableId) {
+  using namespace WireBytes;
   ByteStream body;
-  body << tableId;
-  TsString(L"Table " + std::to_wstring(tableId)).write(body);
-  body << std::int16_t{9} << std::int8_t{1};
-  MoneyInfo(Money(100, 1)).write(body);
-  MoneyInfo(Money(200, 1)).write(body);
-  LobbyTableInfo table;
-  table.read(body);
-  return table;
+  return decode<LobbyTableInfo>(body << tableId << L"Table" << number16(9) << byte(1) << Money(100, 1)
+                                     << Money(200, 1));
+}
+
+/// The action fails with this exception of this model class.
+template <class Failure>
+void expectFailure(const std::function<void()>& action, const std::wstring& source, int line, const std::wstring& text,
+                   const std::wstring& detail = L"") {
+  try {
+    action();
+    ADD_FAILURE() << "no failure of line " << line;
+  } catch (const Failure& failure) {
+    EXPECT_EQ(failure.getFile(), L"SpecificTournamentModel/" + source);
+    EXPECT_EQ(failure.getLine(), line);
+    EXPECT_EQ(failure.getText(), text);
+    EXPECT_EQ(failure.getDetail(), detail);
+  }
 }
 
 }  // namespace Tessel
