@@ -11,32 +11,30 @@ namespace {
 
 std::wstring resourceText(const std::wstring& key) {
   std::wstring text;
-  EXPECT_TRUE(ResourceManager::getInstance().getText(7, L"ServerConnectionErrorMessages", key, text));
+  EXPECT_TRUE(ResourceManager::getInstance().getText(7, L"ServerConnectionErrorMessages", L"CONNECTION_" + key, text));
   return text;
 }
 
 TEST(ConnectionStatus, EveryCodeHasItsTextAndItsFatality) {
-  const std::map<int, std::wstring> keys = {
-      {-1, L"CONNECTION_FAILED_AUTH"},
-      {1, L"CONNECTION_REQUESTED"},
-      {2, L"CONNECTION_KEY_SUCCESS"},
-      {3, L"CONNECTION_UNDEFINED"},
-      {4, L"CONNECTION_FAILED_NET"},
-      {5, L"CONNECTION_FAILED_KEY_NET"},
-      {6, L"CONNECTION_FAILED_SERVER"},
-      {7, L"CONNECTION_FAILED_USER"},
-      {8, L"CONNECTION_FAILED_DATA"},
-      {9, L"CONNECTION_FAILED_COMMUNICATOR"},
-      {10, L"CONNECTION_CLOSED"},
-      {11, L"CONNECTION_ALREADY_CONNECTED"},
-      {12, L"CONNECTION_FAIL_VERSION"},
-      {13, L"CONNECTION_FAIL_PASS"},
-      {14, L"CONNECTION_FAIL_TWICE"},
-      {15, L"CONNECTION_OUT_OF_RECONNECTS"},
-      {16, L"CONNECTION_SEND_FAILED_NOT_CONNECTED"},
-      {17, L"CONNECTION_FAILED_SERVER_NOT_RESPONDING"},
-      {18, L"CONNECTION_FAILED_ACCOUNT_DISABLED"},
-  };
+  const std::map<int, std::wstring> keys = {{-1, L"FAILED_AUTH"},
+                                            {1, L"REQUESTED"},
+                                            {2, L"KEY_SUCCESS"},
+                                            {3, L"UNDEFINED"},
+                                            {4, L"FAILED_NET"},
+                                            {5, L"FAILED_KEY_NET"},
+                                            {6, L"FAILED_SERVER"},
+                                            {7, L"FAILED_USER"},
+                                            {8, L"FAILED_DATA"},
+                                            {9, L"FAILED_COMMUNICATOR"},
+                                            {10, L"CLOSED"},
+                                            {11, L"ALREADY_CONNECTED"},
+                                            {12, L"FAIL_VERSION"},
+                                            {13, L"FAIL_PASS"},
+                                            {14, L"FAIL_TWICE"},
+                                            {15, L"OUT_OF_RECONNECTS"},
+                                            {16, L"SEND_FAILED_NOT_CONNECTED"},
+                                            {17, L"FAILED_SERVER_NOT_RESPONDING"},
+                                            {18, L"FAILED_ACCOUNT_DISABLED"}};
   const std::set<int> fatal = {-105, -104, -103, -102, -101, -10, -8, -7, -4, -3, -2, -1,
                                3,    5,    6,    7,    8,    9,   12, 13, 14, 15, 17, 18};
   std::set<std::wstring> texts;
@@ -58,9 +56,8 @@ TEST(ConnectionStatus, TheCallersTextAndTheSystemsTextComeFirst) {
   EXPECT_EQ(ConnectionFailed(ConnectionFailed::FAILED_NET, L"mine").getMessage(), L"mine");
   const ConnectionFailed system(ConnectionFailed::FAILED_KEY_NET, L"", 2);
   EXPECT_FALSE(system.getMessage().empty());
-  EXPECT_NE(system.getMessage(), resourceText(L"CONNECTION_FAILED_KEY_NET"));
-  EXPECT_EQ(ConnectionFailed(ConnectionFailed::FAILED_NET, L"", 2).getMessage(),
-            resourceText(L"CONNECTION_FAILED_NET"));
+  EXPECT_NE(system.getMessage(), resourceText(L"FAILED_KEY_NET"));
+  EXPECT_EQ(ConnectionFailed(ConnectionFailed::FAILED_NET, L"", 2).getMessage(), resourceText(L"FAILED_NET"));
 }
 
 class EventRecorder : public ConnectionStatusMessageHandler {
