@@ -89,12 +89,9 @@ TEST(NodeTimer, SaysHowFarOffItIs) {
 }
 
 TEST(DateUtils, DaysOfAMonth) {
-  const struct {
-    int year;
-    int month;
-    int days;
-  } rows[] = {{2004, 2, 29}, {1900, 2, 29}, {2003, 2, 28}, {-4, 2, 29}, {0, 1, 29}, {2003, 12, 31}, {2004, 4, 30}};
-  for (const auto& row : rows) EXPECT_EQ(DateUtils::getNumberDaysInMonth(row.year, row.month), row.days);
+  const int rows[][3] = {{2004, 2, 29}, {1900, 2, 29},  {2003, 2, 28}, {-4, 2, 29},
+                         {0, 1, 29},    {2003, 12, 31}, {2004, 4, 30}};
+  for (const auto& [year, month, days] : rows) EXPECT_EQ(DateUtils::getNumberDaysInMonth(year, month), days);
   for (const int month : {0, 13}) {
     EXPECT_THROW(DateUtils::getMonthString(month), OutOfBoundsException);
     try {

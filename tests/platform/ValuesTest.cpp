@@ -10,6 +10,7 @@
 #include <limits>
 #include <set>
 #include <thread>
+#include <tuple>
 
 namespace Tessel {
 namespace {
@@ -67,11 +68,9 @@ TEST(Card, ARandomCardIsAnyOfFiftyTwo) {
 TEST(Player, KeepsWhatItIsBuiltFrom) {
   EXPECT_EQ(User(7, L"Ann").toDebugString(), L"[User: Id=7, NickName=Ann]");
   const RankedPlayer player(7, 1, L"Ann", Money(500, 3), true);
-  EXPECT_EQ(player.getPlayerId(), 7);
-  EXPECT_EQ(player.getPosition(), 1);
-  EXPECT_EQ(player.getName(), L"Ann");
-  EXPECT_EQ(player.getChipStack(), Money(500, 3));
-  EXPECT_TRUE(player.isVIP());
+  EXPECT_EQ(
+      std::tuple(player.getPlayerId(), player.getPosition(), player.getName(), player.getChipStack(), player.isVIP()),
+      std::tuple(7, 1, L"Ann", Money(500, 3), true));
   EXPECT_NE(player, RankedPlayer());
 }
 
