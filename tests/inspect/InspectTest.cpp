@@ -4,6 +4,7 @@
 #include <herald/inspect/Json.h>
 #include <herald/messages/ClientMessageFactory.h>
 #include <herald/messages/info_objects/PlayerInGameInfo.h>
+#include <herald/messages/info_objects/TesselBool.h>
 #include <herald/messages/info_objects/TournamentJoinRequest.h>
 #include <herald/messages/info_objects/TreeNodeInfo.h>
 #include <herald/platform/keystone/ByteStream.h>
@@ -62,6 +63,11 @@ TEST(InspectTest, PrintsAMessageAsJsonInWireOrder) {
     }
   ]
 })");
+}
+
+TEST(InspectTest, PrintsAFlagAsAJsonFlag) {
+  EXPECT_EQ(toJson(TesselBool()), R"({"class":"TesselBool","value":false})");
+  EXPECT_EQ(toJson(TesselBool(true)), R"({"class":"TesselBool","value":true})");
 }
 
 TEST(InspectTest, LeavesOutWhatDidNotTravel) {

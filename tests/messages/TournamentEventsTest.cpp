@@ -311,7 +311,8 @@ TEST(TournamentCreationRules, HandsOutWhatIsAllowed) {
 
   ASSERT_EQ(allowed.getNumberOfBlindLevelSpeeds(), 2);
   const BlindLevelSpeedInfo& speed = allowed.getBlindLevelSpeedInfo(0);
-  EXPECT_EQ(speed.getBlindLevelSpeed().getValue(), AllowedBlindLevelSpeed::UNKNOWN);
+  EXPECT_EQ(read<BlindLevelSpeedInfo>("0001 02 0001 0000000000000002").getBlindLevelSpeed().getValue(),
+            AllowedBlindLevelSpeed::TURBO);
   EXPECT_EQ(speed.toDebugString(),
             L"[BlindLevelSpeedInfo: Id=237, BlindSpeed=-3, StartingChipStack=[MoneyInfo: -239 ]]");
 
