@@ -165,26 +165,24 @@ TEST(SpecificTournamentModel, ReadersNeverSeeHalfAChange) {
   SpecificTournamentModel model(42);
   std::atomic<bool> done = false;
   std::atomic<int> torn = 0;
-  std::vector<std::thread> readers;
-  for (int reader = 0; reader < 3; ++reader) {
-    readers.emplace_back([&] {
-      while (!done) {
-        const TournamentBaseModel basic = model.getBasicInformation();
-        const bool together = basic.getNumberOfPlayersRemaining() == basic.getNumberOfEntrants()
-                              && basic.getAverageChipStack() == basic.getNumberOfEntrants();
-        Sizes sizes;
-        model.readRegisteredPlayers(sizes);
-        model.readTables(sizes);
-        // Every batch adds or removes two players together.
-        if (!together || sizes.playerCount % 2 != 0) ++torn;
-        [[maybe_unused]] const std::tuple copies(model.getBreakInformation(), model.getPlayerRankingInformation(),
-                                                 model.getLevelInformation(), model.getNextLevelInformation(),
-                                                 model.getTourSummary(), model.getPlayerInfo(), model.getRebuyInfo(),
-                                                 model.getTableRankedPlayers(4));
-        const Recorder passingBy(model);
-      }
-    });
-  }
+  const auto readUntilDone = [&] {
+    while (!done) {
+      const TournamentBaseModel basic = model.getBasicInformation();
+      const bool together = basic.getNumberOfPlayersRemaining() == basic.getNumberOfEntrants()
+                            && basic.getAverageChipStack() == basic.getNumberOfEntrants();
+      Sizes sizes;
+      model.readRegisteredPlayers(sizes);
+      model.readTables(sizes);
+      // Every batch adds or removes two players together.
+      if (!together || sizes.playerCount % 2 != 0) ++torn;
+      [[maybe_unused]] const std::tuple copies(model.getBreakInformation(), model.getPlayerRankingInformation(),
+                                               model.getLevelInformation(), model.getNextLevelInformation(),
+                                               model.getTourSummary(), model.getPlayerInfo(), model.getRebuyInfo(),
+                                               model.getTableRankedPlayers(4));
+      const Recorder passingBy(model);
+    }
+  };
+  std::thread readers[] = {std::thread(readUntilDone), std::thread(readUntilDone), std::thread(readUntilDone)};
   SpecificTournamentController controller(model);
   for (int i = 0; i < 2000; ++i) {
     controller.playersNotification(i, i, i);

@@ -54,14 +54,14 @@ class Counted : public Kind {
 };
 
 class Model : public MVCModel {};
-const Model model;
+const Model MODEL;
 
 class Update : public NotificationUpdateObject {
  public:
-  Update() : NotificationUpdateObject(model) {}
+  Update() : NotificationUpdateObject(MODEL) {}
 };
 
-const UserLoginProperties login(L"alice", L"secret", true, false);
+const UserLoginProperties LOGIN(L"alice", L"secret", true, false);
 
 /// How a message is made, and the text that it prints where its family prints at all.
 template <class Kind>
@@ -112,7 +112,7 @@ TEST(ComponentMessages, EachControllerKindReachesItsOperationPrintsItselfAndIsDe
           PGSettings::JoinType{2}, L"mine", PokerGameInfo::GameSpeed{3}, 200),
       row<LCCreateTable>(L"[LCCreateTable:]"), row<LCWaitingReq>(L"[LCWaitingReq:]"),
       row<LCChatMsg>(L"[LCChatMsg: hello]", L"hello"),
-      row<LCConnect>(L"[LCConnect: NickName=alice Password=1 rememberPassword=1 autoLogin=0 ]", login),
+      row<LCConnect>(L"[LCConnect: NickName=alice Password=1 rememberPassword=1 autoLogin=0 ]", LOGIN),
       row<LCJoinLobbyReq>(L"[LCJoinLobbyReq: 6]", 6), row<LCGotoTable>(L"[LCGotoTable: Node id: 7 Game id: 8]", 7, 8),
       row<TLCNotificationUpdate>(L"[TLCNotificationUpdate]", Update()),
       row<TLCStartPrivateTournament>(L"[TLCStartPrivateTournament - tourId=9]", 9),
@@ -127,7 +127,7 @@ TEST(ComponentMessages, EachControllerKindReachesItsOperationPrintsItselfAndIsDe
       row<TLCCloseTournamentLobby>(L"[TLCCloseTournamentLobby: -1]"),
       row<TLCChatMsg>(L"[TLCChatMsg: hi 20]", ChatDestination{20}, L"hi"),
       row<TLCJoinTournamentLobbyReq>(L"[TLCJoinTournamentLobbyReq: 21]", 21),
-      row<TLCInitConnect>(L"[TLCInitConnect: User=alice, NodeId = 22]", login, 22));
+      row<TLCInitConnect>(L"[TLCInitConnect: User=alice, NodeId = 22]", LOGIN, 22));
 }
 
 TEST(ComponentMessages, TheOtherFamiliesReachTheirOperationsAndAreDeletedOnce) {
@@ -153,13 +153,13 @@ TEST(ComponentMessages, MessagesOwnWhatTheyCarry) {
   stream.clear();
   EXPECT_EQ(data.getByteStream().GetSize(), 4);
 
-  const TLCNotificationUpdate update{Update()};
-  const TLCNotificationUpdate updateCopy(update);
-  EXPECT_NE(update.getNotificationUpdateObject(), updateCopy.getNotificationUpdateObject());
-  const ConnectionStatusMessage status(1, ConnectionFailed(ConnectionFailed::CLOSED, L"gone"));
-  const ConnectionStatusMessage statusCopy(status);
-  EXPECT_NE(status.getConnectionStatus(), statusCopy.getConnectionStatus());
-  EXPECT_EQ(statusCopy.getConnectionStatus()->toDebugString(), status.getConnectionStatus()->toDebugString());
+  const auto update = std::make_unique<TLCNotificationUpdate>(Update());
+  const TLCNotificationUpdate updateCopy(*update);
+  EXPECT_NE(update->getNotificationUpdateObject(), updateCopy.getNotificationUpdateObject());
+  const auto status = std::make_unique<ConnectionStatusMessage>(1, ConnectionFailed(ConnectionFailed::CLOSED, L"gone"));
+  const ConnectionStatusMessage statusCopy(*status);
+  EXPECT_NE(status->getConnectionStatus(), statusCopy.getConnectionStatus());
+  EXPECT_EQ(statusCopy.getConnectionStatus()->toDebugString(), status->getConnectionStatus()->toDebugString());
 }
 
 TEST(ComponentMessages, OnlyThePresenceOfAPasswordIsPrinted) {

@@ -109,7 +109,7 @@ TEST(TsString, KeepsItsTextAndTellsItsReporterWhenAReadFails) {
   TsString text(L"old");
   text.setBugReporter(&reporter);
   TsString copy(text);
-  ByteStream in(toBytes("0001 FF 0001 \"x\" 0002 \"y\""));
+  ByteStream in(toBytes(R"(0001 FF 0001 "x" 0002 "y")"));
   EXPECT_FALSE(copy.read(in));
   EXPECT_EQ(copy, text);
   EXPECT_EQ(reporter.reports, 1);
