@@ -4,14 +4,11 @@
 #include <herald/messages/LobbyRequests.h>
 #include <herald/messages/PrivateGameEvents.h>
 #include <herald/messages/PrivateGameRequests.h>
-#include <tests/support/RecordingSink.h>
 #include <tests/support/Told.h>
 #include <tests/support/WireBytes.h>
 
-#include <iterator>
 #include <memory>
 #include <string>
-#include <vector>
 
 namespace Tessel {
 namespace {
@@ -81,22 +78,6 @@ TEST(LobbyRequests, WriteTheirFrames) {
     EXPECT_EQ(toHex(out.bytes()), toHex(toBytes(frame)));
     EXPECT_EQ(request->toDebugString(), text);
   }
-}
-
-TEST(LobbyRequests, LeaveTheStreamAloneWhenATextCannotBeWritten) {
-  const WithRecordingSink reports;
-  const std::wstring loneSurrogate(1, static_cast<wchar_t>(0xD800));
-  const std::unique_ptr<ServerMessage> requests[] = {
-      std::make_unique<PGJoinGameReq>(PlayerInfo(1, loneSurrogate, L"", 2, 3, L""), L"hi"),
-      std::make_unique<PGJoinGameReq>(PlayerInfo(1, L"", L"", 2, 3, L""), loneSurrogate),
-      std::make_unique<ServerChatMsg>(ChatMessage(L"a", loneSurrogate)),
-  };
-  for (const auto& request : requests) {
-    ByteStream out;
-    EXPECT_FALSE(request->write(out << 1));
-    EXPECT_EQ(out.GetSize(), 4);
-  }
-  EXPECT_EQ(reports.sink->reports.size(), std::size(requests));
 }
 
 }  // namespace

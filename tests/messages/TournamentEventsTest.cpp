@@ -5,10 +5,8 @@
 #include <herald/messages/TournamentLobbyEvents.h>
 #include <herald/platform/keystone/Exceptions.h>
 #include <herald/platform/keystone/UTFEncoder.h>
-#include <herald/wire/WireTypes.h>
-#include <tests/support/Golden.h>
-#include <tests/support/Notation.h>
 #include <tests/support/RecordingSink.h>
+#include <tests/support/Told.h>
 #include <tests/support/WireBytes.h>
 
 #include <limits>
@@ -20,17 +18,6 @@ namespace {
 
 using namespace WireBytes;
 using std::tuple;
-
-template <class T>
-T read(std::string_view notation) {
-  return decode<T>(ByteStream(toBytes(notation)));
-}
-
-/// The first golden case of the class.
-template <class T>
-T golden() {
-  return decode<T>(ByteStream(goldenCase(typeName<T>()).bytes));
-}
 
 template <class Record>
 Record decodeByte(int value) {
