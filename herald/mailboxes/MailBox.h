@@ -26,7 +26,7 @@ class HERALD_API MailBox {
   virtual ~MailBox();
 
   /// A snapshot, read without the lock.
-  bool isEmpty() const { return count_.load(std::memory_order_acquire) == 0; }
+  bool isEmpty() const { return queue_.isEmpty(); }
 
   /// Takes ownership of the message. Null is queued, too, and comes back as null. When memory runs out,
   /// `std::bad_alloc` leaves the queue and the post office as they were and the message the caller's.
@@ -68,15 +68,15 @@ class HERALD_API MailBox {
     return work();
   }
 
-  void announce();
-  T* removeOldest();
+  void tell(void (PostOffice::*event)()) {
+    if (postOffice_ != nullptr) callOut(event);
+  }
+  void callOut(void (PostOffice::*event)());
   T* takeOldest();
-  void tell(void (PostOffice::*event)());
 
   std::mutex lock_;
   std::atomic<std::thread::id> calling_ = std::thread::id();
   MessageQueue<T> queue_;
-  std::atomic<int> count_ = 0;
   PostOffice* postOffice_;
 };
 
@@ -84,7 +84,7 @@ template <class T, int N>
 inline void MailBox<T, N>::post(T* message) {
   locked([&] {
     queue_.push(message);
-    announce();
+    tell(&PostOffice::post);
   });
 }
 
@@ -93,32 +93,20 @@ inline void MailBox<T, N>::post(std::unique_ptr<T> message) {
   locked([&] {
     queue_.push(message.get());
     static_cast<void>(message.release());
-    announce();
+    tell(&PostOffice::post);
   });
 }
 
 template <class T, int N>
 inline T* MailBox<T, N>::pickup() {
-  return locked([&] { return queue_.size() > 0 ? takeOldest() : nullptr; });
-}
-
-template <class T, int N>
-inline void MailBox<T, N>::announce() {
-  count_.store(queue_.size(), std::memory_order_release);
-  if (postOffice_ != nullptr) tell(&PostOffice::post);
-}
-
-template <class T, int N>
-inline T* MailBox<T, N>::removeOldest() {
-  T* const message = queue_.pop();
-  count_.store(queue_.size(), std::memory_order_release);
-  return message;
+  if (isEmpty()) return nullptr;  // so that a consumer who polls does not hold up those who post
+  return locked([&] { return queue_.isEmpty() ? nullptr : takeOldest(); });
 }
 
 template <class T, int N>
 inline T* MailBox<T, N>::takeOldest() {
-  T* const message = removeOldest();
-  if (postOffice_ != nullptr) tell(&PostOffice::pickup);
+  T* const message = queue_.pop();
+  tell(&PostOffice::pickup);
   return message;
 }
 

@@ -9,8 +9,8 @@ template <class T, int N>
 MailBox<T, N>::~MailBox() {
   locked([&] {
     const CallingOut messageDestructors(*this);
-    while (queue_.size() > 0) {
-      std::unique_ptr<T>(removeOldest()).reset();
+    while (!queue_.isEmpty()) {
+      std::unique_ptr<T>(queue_.pop()).reset();
       if (postOffice_ != nullptr) postOffice_->pickup();
     }
   });
@@ -21,13 +21,13 @@ std::vector<std::unique_ptr<T>> MailBox<T, N>::pickupAll() {
   return locked([&] {
     std::vector<std::unique_ptr<T>> messages;
     messages.reserve(static_cast<std::size_t>(queue_.size()));
-    while (queue_.size() > 0) messages.emplace_back(takeOldest());
+    while (!queue_.isEmpty()) messages.emplace_back(takeOldest());
     return messages;
   });
 }
 
 template <class T, int N>
-void MailBox<T, N>::tell(void (PostOffice::*event)()) {
+void MailBox<T, N>::callOut(void (PostOffice::*event)()) {
   const CallingOut callingOut(*this);
   (postOffice_->*event)();
 }
