@@ -6,6 +6,10 @@
 #elif defined(_WIN32)
 #ifdef HERALD_BUILDING
 #define HERALD_API __declspec(dllexport)
+#elif defined(__MINGW32__)
+// The linker imports by itself. With dllimport it would also look in the library for the inline constants of the
+// classes, which that compiler does not export.
+#define HERALD_API
 #else
 #define HERALD_API __declspec(dllimport)
 #endif
