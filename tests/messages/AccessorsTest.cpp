@@ -13,12 +13,14 @@
 #include <herald/messages/info_objects/TesselBool.h>
 #include <herald/messages/info_objects/TesselIntBitMask.h>
 #include <herald/platform/keystone/Exceptions.h>
+#include <tests/support/RecordingSink.h>
 #include <tests/support/Told.h>
 
 #include <climits>
 #include <functional>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace Tessel {
 
@@ -212,6 +214,15 @@ TEST(Accessors, OfDefaultRecords) {
   EXPECT_EQ(valuesOf(player), "1 \"n\" \"c\" 2 3 0 \"t\" 6 5");
 }
 
+TEST(Accessors, OfConstructedRecords) {
+  EXPECT_EQ(valuesOf(DealtCardsInfo(DealtCardsInfoDealType{4}, golden<CardsInfo>())),
+            "4 " + *goldenCase("CardsInfo").values);
+  EXPECT_EQ(valuesOf(ClientSatInInfo(7, ClientSatInStatus::RESITTING_IN)), "7 1");
+  EXPECT_EQ(valuesOf(PokerSelfPlayerInfo(5, golden<SelfPlayerInfo>())), *goldenCase("SelfPlayerInfo").values + " 5");
+  const auto settings = read<PGSettingsInfo>("00000001 02 01 0001 41 0003 0000000000000005 000000000000000A");
+  EXPECT_EQ(told(settings.getGameType()->getValue(), settings.getLimitType()->getValue()), "2 1");
+}
+
 TEST(CardInfo, MakesCardsOfWireColorsAndNumbers) {
   const int colors[] = {4, 1, 2, 0, 3};
   for (int color = -2; color <= 4; ++color) {
@@ -246,6 +257,21 @@ TEST(CardsInfo, IsACommunitySetWhenNoCardIsAPlayers) {
   EXPECT_EQ(told(card.getPlayerId(), card.getSeat(), card.isHidden()), "0 5 1");
   card.setRandomCommunityCard();
   EXPECT_EQ(told(card.isHidden(), CardsInfo({card}).isCommunityCards(), CardsInfo().isCommunityCards()), "0 1 1");
+}
+
+TEST(DiscardCardsInfo, IsWrittenWithUpTo127Cards) {
+  for (const int count : {127, 128}) {
+    const WithRecordingSink recording;
+    const auto& reports = recording.sink->reports;
+    DiscardCardsInfo discard;
+    discard.setDiscardedCards(TsArray<int>(std::vector<int>(static_cast<std::size_t>(count), 5)));
+    ByteStream out;
+    EXPECT_EQ(discard.write(out), count == 127);
+    ASSERT_EQ(reports.size(), count == 127 ? 0u : 1u);
+    if (count == 128) {
+      EXPECT_EQ(reports[0].getText(), L"A list of 128 items is too long for its count.");
+    }
+  }
 }
 
 TEST(DealtCardsInfo, KnowsTheDealTypesZeroToNine) {
@@ -325,6 +351,25 @@ TEST(TableInformation, DerivesItsLimitType) {
   ByteStream out;
   EXPECT_FALSE(TableInformation().write(out));
   EXPECT_EQ(out.GetSize(), 0);
+}
+
+TEST(TableInformation, IsMadeOfItsValues) {
+  using Round = TableInformation::RoundBetInfo;
+  const auto money = [](int amount) { return Money(amount, 83); };
+  const TableInformation table(
+      TsString(L"Bord"), TsString(L"text"), GameTypeFactory::createGameType(GameTypes::AllowedGameType::OMAHA),
+      LimitTypeFactory::createLimitType(LimitTypes::AllowedLimitType::POT_LIMIT), 83, money(-84), money(90), money(-91),
+      money(92), money(-88), money(-93), {money(86), money(-87)},
+      {Round(money(94), money(-95), false, true), Round(money(96), money(97), true, false)}, 85, 2, 2, 89, false, true);
+  EXPECT_EQ(valuesOf(table),
+            "\"Bord\" 1 83 -84 0 1 85 (2 86 -87) -88 89 \"text\" 90 -91 92 -93 (2 94 -95 0 1 96 97 1 0)");
+  EXPECT_EQ(told(table.getMoney(1), table.getMoney(2), table.getMoney(3), table.getMoney(4), table.getMoney(5),
+                 table.getMoney(6), table.getAmounts().at(1), table.getRounds().at(0).getAmount2()),
+            "-84/83 -88/83 90/83 -91/83 92/83 -93/83 -87/83 -95/83");
+  EXPECT_EQ(told(table.getValue1(), table.getValue2(), table.getFlagA(), table.getFlagB(),
+                 table.getGameType()->getValue(), table.getLimitType()->getValue()),
+            "85 89 0 1 1 1");
+  for (const int outside : {0, 7}) EXPECT_THROW(table.getMoney(outside), OutOfBoundsException);
 }
 
 TEST(InfoArray, IsReadWholeOrThrows) {

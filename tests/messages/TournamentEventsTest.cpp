@@ -293,22 +293,21 @@ TEST(TournamentCreationRules, HandsOutWhatIsAllowed) {
   const auto& inUnit = allowed.getBuyInFees().getPrivateTourMonetaryBuyInFeeType(0);
   EXPECT_EQ(inUnit.getMonetaryUnitId(), 231);
   const auto& buyInFees = inUnit.getPrivateTourMonetaryBuyInFeeType();
-  EXPECT_EQ(buyInFees.getPrivateTourBuyInFeeType(0).toDebugString(),
-            L"[PrivateTourBuyInFeeType: iId=1, iBuyIn=-232, iFee=233]");
+  const auto& buyInFee = buyInFees.getPrivateTourBuyInFeeType(0);
+  EXPECT_EQ(told(buyInFee.getId(), buyInFee.getBuyIn(), buyInFee.getFee()), "1 -232 233");
 
   ASSERT_EQ(allowed.getNumberOfBlindLevelSpeeds(), 2);
   const BlindLevelSpeedInfo& speed = allowed.getBlindLevelSpeedInfo(0);
   EXPECT_EQ(read<BlindLevelSpeedInfo>("0001 02 0001 0000000000000002").getBlindLevelSpeed().getValue(),
             AllowedBlindLevelSpeed::TURBO);
-  EXPECT_EQ(speed.toDebugString(),
-            L"[BlindLevelSpeedInfo: Id=237, BlindSpeed=-3, StartingChipStack=[MoneyInfo: -239 ]]");
+  EXPECT_EQ(told(speed.getId(), speed.getStartingChipStack()), "237 -239/238");
 
   ASSERT_EQ(allowed.getNumberOfPrizeStructures(), 2);
   EXPECT_EQ(allowed.getPrizeStructureType(0).getValue(), AllowedPrizeStructureType{5});
 
   const auto& intervals = allowed.getStartTimeIntervals();
-  EXPECT_EQ(intervals.getPrivateTourTimeIntervalType(0).toDebugString(),
-            L"[PrivateTourTimeIntervalType: iStartTime=245, iEndTime=-246]");
+  const auto& interval = intervals.getPrivateTourTimeIntervalType(0);
+  EXPECT_EQ(told(interval.getStartTime(), interval.getEndTime()), "245 -246");
 
   ASSERT_EQ(allowed.getNumberOfLanguages(), 2);
   EXPECT_EQ(allowed.getLanguageCode(0), L"sv");

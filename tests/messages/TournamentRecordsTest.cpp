@@ -69,9 +69,10 @@ TEST(TourSummary, HandsOutEveryField) {
                  summary.getMaximumNumberOfEntrants(), summary.getCurrentNumberOfPlayers(),
                  summary.getPlayersPerTable(), summary.getOwnerID(), summary.getRegistrationStatus()),
             "104 105 106 107 9 108 -5");
-  EXPECT_EQ(told(summary.getGlobalMonetaryUnitId(), summary.getPrizeStructure().getGuaranteedCash(),
-                 summary.getStartingChips()),
-            "3 250000/7 10000/8");
+  const PrizeStructureInfo prizes = summary.getPrizeStructure();
+  EXPECT_EQ(told(summary.getGlobalMonetaryUnitId(), prizes.getPrizeStructureType().getValue(),
+                 prizes.getGuaranteedCash(), summary.getStartingChips()),
+            "3 4 250000/7 10000/8");
   EXPECT_EQ(summary.getTicketInformation(), TournamentTicket(Money(200, 3), Money(15, 4), true, L"Ticket"));
   EXPECT_EQ(summary.getStartTime(), TsTime(5'000'000));
   EXPECT_EQ(summary.getWebRegistrationTime(), TsTime(6'000'000));
