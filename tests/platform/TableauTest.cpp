@@ -17,7 +17,6 @@
 #include <herald/platform/tableau/TournamentRebuyFailed.h>
 #include <herald/platform/tableau/TournamentStatus.h>
 #include <herald/platform/tableau/TournamentSynchedEvent.h>
-#include <herald/platform/tableau/TournamentTicket.h>
 #include <herald/platform/tableau/TournamentType.h>
 
 #include <limits>
@@ -143,15 +142,6 @@ TEST(TournamentLevelInformation, ReplacingTheLevelKeepsTheBreakState) {
   EXPECT_NE(level, next);
   level.breakEnded();
   EXPECT_EQ(level, next);
-}
-
-TEST(TournamentTicket, KeepsWhatItIsBuiltFrom) {
-  const TournamentTicket ticket(Money(10, 1), Money(1, 1), true, L"Sunday");
-  EXPECT_EQ(ticket.getBuyIn(), Money(10, 1));
-  EXPECT_EQ(ticket.getFee(), Money(1, 1));
-  EXPECT_TRUE(ticket.isRestricted());
-  EXPECT_EQ(ticket.getDescription(), TournamentTicket(L"Sunday").getDescription());
-  EXPECT_NE(ticket, TournamentTicket(L"Sunday"));
 }
 
 }  // namespace

@@ -7,7 +7,7 @@
 #include <cstdint>
 #include <cstring>
 #include <span>
-#include <type_traits>
+#include <utility>
 #include <vector>
 
 namespace Tessel {
@@ -69,13 +69,16 @@ class HERALD_API ByteStream {
  private:
   template <std::unsigned_integral T>
   static T bigEndian(T value) {
-    if constexpr (sizeof(T) == 1 || std::endian::native == std::endian::big) {
+    if constexpr (std::endian::native == std::endian::big)
       return value;
-    } else {
-      T swapped = 0;
-      for (std::size_t i = 0; i < sizeof(T); ++i) swapped = static_cast<T>(swapped << 8 | (value >> 8 * i & 0xFF));
-      return swapped;
-    }
+    else
+      return swapped(value, std::make_index_sequence<sizeof(T)>());
+  }
+
+  // Without a loop, so that compilers see the one instruction that does it.
+  template <std::unsigned_integral T, std::size_t... BYTES>
+  static T swapped(T value, std::index_sequence<BYTES...>) {
+    return static_cast<T>((... | ((value >> 8 * BYTES & 0xFF) << 8 * (sizeof(T) - 1 - BYTES))));
   }
 
   template <std::unsigned_integral T>
