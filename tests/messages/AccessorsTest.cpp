@@ -5,11 +5,15 @@
 #include <herald/messages/ChatEvents.h>
 #include <herald/messages/JoinEvents.h>
 #include <herald/messages/LobbyEvents.h>
+#include <herald/messages/LobbyRequests.h>
 #include <herald/messages/PrivateGameEvents.h>
+#include <herald/messages/RebuyRequests.h>
 #include <herald/messages/SeatEvents.h>
+#include <herald/messages/TableRequests.h>
 #include <herald/messages/TableStateEvents.h>
 #include <herald/messages/info_objects/GameIdInfo.h>
 #include <herald/messages/info_objects/ObjectInfo.h>
+#include <herald/messages/info_objects/PGSettings.h>
 #include <herald/messages/info_objects/TesselBool.h>
 #include <herald/messages/info_objects/TesselIntBitMask.h>
 #include <herald/platform/keystone/Exceptions.h>
@@ -26,62 +30,36 @@ namespace Tessel {
 
 namespace {
 
-/// The accessor of a message answers the record of its body.
 template <class Message, class Record>
-void expectCarries(Record (Message::*record)() const) {
+void expectCarries(Record (Message::*accessor)() const) {
   const auto message = golden<Message>();
-  EXPECT_EQ(valuesOf((message.*record)()), valuesOf(message)) << typeName<Message>();
+  EXPECT_EQ(valuesOf((message.*accessor)()), valuesOf(message)) << typeName<Message>();
+}
+
+/// Each accessor answers the record that is its message's body.
+template <class... Accessors>
+void expectCarry(Accessors... accessors) {
+  (expectCarries(accessors), ...);
 }
 
 TEST(Accessors, OfMessagesAnswerTheirRecord) {
-  expectCarries(&ClientSatIn::getInfo);
-  expectCarries(&ClientSatOut::getInfo);
-  expectCarries(&ClientSlowPlayer::getSlowPlayerInfo);
-  expectCarries(&PlayerSatDown::getInfo);
-  expectCarries(&SitDownReply::getInfo);
-  expectCarries(&ReserveMoneyReply::getReplyInfo);
-  expectCarries(&PlayerJoined::getPlayerInGameInfo);
-  expectCarries(&PlayerLeft::getPigIDInfo);
-  expectCarries(&PlayerStandUp::getPigIDInfo);
-  expectCarries(&ClientNewRound::getNewRoundInfo);
-  expectCarries(&ClientSetDealerToken::getDealer);
-  expectCarries(&ClientBetBlindReq::getBetRequestInfo);
-  expectCarries(&ClientBetAnteReq::getBetRequestInfo);
-  expectCarries(&ClientBetReq::getBetRequestInfo);
-  expectCarries(&ClientHurryUp::getPlayer);
-  expectCarries(&ClientFoldDone::getPlayer);
-  expectCarries(&ClientCheckDone::getPlayer);
-  expectCarries(&ClientAllInDone::getPlayer);
-  expectCarries(&ClientCallDone::getCreditInfo);
-  expectCarries(&ClientBetDone::getCreditInfo);
-  expectCarries(&ClientBetDeadDone::getCreditInfo);
-  expectCarries(&ClientBetsToPot::getCreditInfo);
-  expectCarries(&ClientTotalRake::getCreditInfo);
-  expectCarries(&ClientCards::getDealtCardsInfo);
-  expectCarries(&ClientMuckCardsReq::getPlayer);
-  expectCarries(&ClientMuckLosingCardsReq::getPlayer);
-  expectCarries(&ClientShowCardsReq::getPlayer);
-  expectCarries(&ClientShowAllCards::getCardsInfo);
-  expectCarries(&ClientShowdownHandValue::getHandValueInfo);
-  expectCarries(&ClientChangeCards::getChangeCardsInfo);
-  expectCarries(&ClientVoteCast::getInfo);
-  expectCarries(&GameStateInfoMsg::getGameStateInfo);
-  expectCarries(&ClientTableInfo::getTableInformation);
-  expectCarries(&ConnectOk::getSelfPlayerInfo);
-  expectCarries(&TreeReply::getRoot);
-  expectCarries(&LobbyInfoMsg::getLobbyInfo);
-  expectCarries(&PingInfo::getPingInfoList);
-  expectCarries(&JoinLobbyFailed::getJoinRequest);
-  expectCarries(&JoinGameFailed::getJoinRequest);
-  expectCarries(&JoinWaitingFail::getJoinRequest);
-  expectCarries(&JoinWaitingOk::getLobbyInfo);
-  expectCarries(&JoinAvailable::getPokerGameInfo);
-  expectCarries(&MonetaryInfoMsg::getMonetaryInfo);
-  expectCarries(&ClientChatMsg::getChatMessage);
-  expectCarries(&ClientGlobalChatMsg::getChatMessage);
-  expectCarries(&VIPInfo::getVIPList);
-  expectCarries(&PGGamesSettingsList::getSettingsList);
-  expectCarries(&PGCreateGameReply::getPokerGameInfo);
+  expectCarry(&ClientSatIn::getInfo, &ClientSatOut::getInfo, &ClientSlowPlayer::getSlowPlayerInfo,
+              &PlayerSatDown::getInfo, &SitDownReply::getInfo, &ReserveMoneyReply::getReplyInfo,
+              &PlayerJoined::getPlayerInGameInfo, &PlayerLeft::getPigIDInfo, &PlayerStandUp::getPigIDInfo,
+              &ClientNewRound::getNewRoundInfo, &ClientSetDealerToken::getDealer, &ClientBetBlindReq::getBetRequestInfo,
+              &ClientBetAnteReq::getBetRequestInfo, &ClientBetReq::getBetRequestInfo, &ClientHurryUp::getPlayer,
+              &ClientFoldDone::getPlayer, &ClientCheckDone::getPlayer, &ClientAllInDone::getPlayer,
+              &ClientCallDone::getCreditInfo, &ClientBetDone::getCreditInfo, &ClientBetDeadDone::getCreditInfo,
+              &ClientBetsToPot::getCreditInfo, &ClientTotalRake::getCreditInfo, &ClientCards::getDealtCardsInfo,
+              &ClientMuckCardsReq::getPlayer, &ClientMuckLosingCardsReq::getPlayer, &ClientShowCardsReq::getPlayer,
+              &ClientShowAllCards::getCardsInfo, &ClientShowdownHandValue::getHandValueInfo,
+              &ClientChangeCards::getChangeCardsInfo, &ClientVoteCast::getInfo, &GameStateInfoMsg::getGameStateInfo,
+              &ClientTableInfo::getTableInformation, &ConnectOk::getSelfPlayerInfo, &TreeReply::getRoot,
+              &UnSubscribeNode::getSubscriptionInfo, &LobbyInfoMsg::getLobbyInfo, &PingInfo::getPingInfoList,
+              &JoinLobbyFailed::getJoinRequest, &JoinGameFailed::getJoinRequest, &JoinWaitingFail::getJoinRequest,
+              &JoinWaitingOk::getLobbyInfo, &JoinAvailable::getPokerGameInfo, &MonetaryInfoMsg::getMonetaryInfo,
+              &ClientChatMsg::getChatMessage, &ClientGlobalChatMsg::getChatMessage, &VIPInfo::getVIPList,
+              &PGGamesSettingsList::getSettingsList, &PGCreateGameReply::getPokerGameInfo);
 }
 
 TEST(Accessors, OfMessagesAnswerTheirFields) {
@@ -96,6 +74,11 @@ TEST(Accessors, OfMessagesAnswerTheirFields) {
   EXPECT_EQ(golden<ClientExtendedWelcomeMessage>().getMessage(), L"V\u00E4lkommen");
   EXPECT_EQ(golden<PGPlayerReqTimedOut>().getId(), -502);
   EXPECT_EQ(golden<PGPromotedModerator>().getId(), 503);
+  EXPECT_EQ(golden<GameList>().getNumberOfGameInfos(), 2);
+  expectTold<Ping>("1234605616436508552 -70", [](auto& m) { return told(m.getServerTime(), m.getPing()); });
+  expectTold<ClientDiscardCards>("6 2", [](auto& m) {
+    return told(m.getDiscardCardsInfo().getSeat(), m.getDiscardCardsInfo().getNrDiscardedCards());
+  });
   expectTold<ClientWin>("2 0 900 5 -1", [](auto& m) {
     const auto& pots = m.getPots();
     return told(pots.size(), pots[0].getPotType().getValue(), pots[0].getCreditInfo().getAmount(),
@@ -182,11 +165,12 @@ TEST(Accessors, OfRecordsAnswerTheirFields) {
     return told(r.getId(), r.getName(), r.getNrPlayers(), r.getMaxNrPlayers(), r.getNrPlayersWatching(),
                 r.getMonetaryUnitId(), r.getPort(), r.getType(), r.isFull());
   });
-  expectTold<PokerRulesInfo>("-49/48 50/48 2 51/48 -52/48 53/48 -54/48 55/48 -56/48 57/48 -59/58 61/-60", [](auto& r) {
-    return told(r.getMaxRake(), r.getBigBlind(), r.getNrChipStackValues(), r.getChipStackValue(0),
-                r.getChipStackValue(1), r.getMinChipValue(), r.getAnte(), r.getSmallBlind(), r.getSmallBet(),
-                r.getBigBet(), r.getTournamentBuyIn(), r.getTournamentFee());
-  });
+  expectTold<PokerRulesInfo>(
+      "Höld’em -49/48 50/48 2 51/48 -52/48 53/48 -54/48 55/48 -56/48 57/48 -59/58 61/-60", [](auto& r) {
+        return told(r.getGameDescription(), r.getMaxRake(), r.getBigBlind(), r.getNrChipStackValues(),
+                    r.getChipStackValue(0), r.getChipStackValue(1), r.getMinChipValue(), r.getAnte(), r.getSmallBlind(),
+                    r.getSmallBet(), r.getBigBet(), r.getTournamentBuyIn(), r.getTournamentFee());
+      });
   expectTold<PokerLobbyInfo>("-142 2 -9 1 Ólafur Foyer 48 144 -145 146", [](auto& r) {
     return told(r.getId(), r.getNrPlayers(), r.getPlayers()[1].getId(), r.getNrPlayersWaiting(),
                 r.getPlayersWaiting()[0].getNickName(), r.getName(), r.getPokerRules().getMonetaryUnitId(),
@@ -199,6 +183,24 @@ TEST(Accessors, OfRecordsAnswerTheirFields) {
   expectTold<VIPPlayerInfo>("161 1 1 -162 10 Ödön -163", [](auto& r) {
     return told(r.getPlayerId(), r.isPlaying(), r.getGameKind(), r.getGameId(), r.getVIPType(), r.getVIPName(),
                 r.getVIPStatus());
+  });
+  expectTold<ChatMessage>("ñ ^hej", [](auto& r) { return told(r.getNickname(), r.getMessage()); });
+  expectTold<GameIdInfo>("2 140", [](auto& r) { return told(r.getNrIds(), r.getId(0)); });
+  expectTold<PGSettingsInfo>("-178 Privat", [](auto& r) { return told(r.getSettingId(), r.getDescription()); });
+  expectTold<PingInfoList>("2 b -160",
+                           [](auto& r) { return told(r.getNrInfos(), r.getPingInfo(1).getNick(), r.getGameId()); });
+  expectTold<TreeNodeInfo>("-116 117 ö -118 2", [](auto& r) {
+    return told(r.getId(), r.getNameId(), r.getDefaultName(), r.getPort(), r.getNumSubNodes());
+  });
+  expectTold<InfoVector>("2 com.tessel.games.poker4.shared.info.CreditInfo",
+                         [](auto& r) { return told(r.size(), r.getTypeString()); });
+  expectTold<MonetaryInfo>(
+      "2 1 2", [](auto& r) { return told(r.getMonetaryUnitCount(), r.getMonetaryTypeCount(), r.getCurrencyCount()); });
+  expectTold<MonetaryUnitInfo>("-167 real €",
+                               [](auto& r) { return told(r.getId(), r.getMonetaryTypeId(), r.getCurrencyId()); });
+  expectTold<MonetaryTypeInfo>("play Spel 6 -112 0 1 1", [](auto& r) {
+    return told(r.getId(), r.getName(), r.getProperties(), r.getSortingPriority(), r.isFree(), r.isRefillable(),
+                r.isReal());
   });
   expectTold<CurrencyInfo>("SEK kr   :- -170 17", [](auto& r) {
     return told(r.getId(), r.getPrefix(), r.getPostfix(), r.getCutOffAmount(), r.getSortingPriority());
@@ -219,8 +221,20 @@ TEST(Accessors, OfConstructedRecords) {
             "4 " + *goldenCase("CardsInfo").values);
   EXPECT_EQ(valuesOf(ClientSatInInfo(7, ClientSatInStatus::RESITTING_IN)), "7 1");
   EXPECT_EQ(valuesOf(PokerSelfPlayerInfo(5, golden<SelfPlayerInfo>())), *goldenCase("SelfPlayerInfo").values + " 5");
+  const PGSettings wanted(9, 6, PGSettings::JoinType{1}, L"ab", PokerGameInfo::GameSpeed{2});
+  EXPECT_EQ(told(wanted.getSettingId(), wanted.getMaxNumPlayers(), wanted.getJoinType(), wanted.getSpeed()), "9 6 1 2");
   const auto settings = read<PGSettingsInfo>("00000001 02 01 0001 41 0003 0000000000000005 000000000000000A");
   EXPECT_EQ(told(settings.getGameType()->getValue(), settings.getLimitType()->getValue()), "2 1");
+}
+
+TEST(Accessors, OfRequests) {
+  const ServerInTurnAction action(1, 2, 3, InTurnAction::InTurnActionType{4}, 5);
+  EXPECT_EQ(told(action.getBetRound(), action.getActionType(), action.getAmount()), "3 4 5");
+  EXPECT_EQ(told(Pong(6, 7).getServerTime(), Pong(6, 7).getPing(), ServerSettings(8).getBits(),
+                 TournamentRebuyReplyMsg(9, true).isAccepted()),
+            "6 7 8 1");
+  EXPECT_EQ(valuesOf(SubscribeNodeReq(SubscriptionInfo(12, 1)).getSubscriptionInfo()), "12 1");
+  EXPECT_EQ(valuesOf(UnSubscribeNodeReq(SubscriptionInfo(12, 1)).getSubscriptionInfo()), "12 1");
 }
 
 TEST(CardInfo, MakesCardsOfWireColorsAndNumbers) {
@@ -364,8 +378,9 @@ TEST(TableInformation, IsMadeOfItsValues) {
   EXPECT_EQ(valuesOf(table),
             "\"Bord\" 1 83 -84 0 1 85 (2 86 -87) -88 89 \"text\" 90 -91 92 -93 (2 94 -95 0 1 96 97 1 0)");
   EXPECT_EQ(told(table.getMoney(1), table.getMoney(2), table.getMoney(3), table.getMoney(4), table.getMoney(5),
-                 table.getMoney(6), table.getAmounts().at(1), table.getRounds().at(0).getAmount2()),
-            "-84/83 -88/83 90/83 -91/83 92/83 -93/83 -87/83 -95/83");
+                 table.getMoney(6), table.getAmounts().at(1), table.getRounds().at(1).getAmount1(),
+                 table.getRounds().at(0).getAmount2()),
+            "-84/83 -88/83 90/83 -91/83 92/83 -93/83 -87/83 96/83 -95/83");
   EXPECT_EQ(told(table.getValue1(), table.getValue2(), table.getFlagA(), table.getFlagB(),
                  table.getGameType()->getValue(), table.getLimitType()->getValue()),
             "85 89 0 1 1 1");

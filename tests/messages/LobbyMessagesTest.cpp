@@ -26,7 +26,11 @@ TEST(NodeIds, AreSetByUpdatesAndByUnsubscribingButNotByGameLists) {
 
 TEST(NumPlayersLoggedIn, IsRead) {
   ByteStream out;
-  EXPECT_EQ(decode<NumPlayersLoggedIn>(out << 1 << 2 << 3 << 4 << 5).toDebugString(),
+  const auto message = decode<NumPlayersLoggedIn>(out << 1 << 2 << 3 << 4 << 5);
+  EXPECT_EQ(told(message.getRealPlayersAtTable(), message.getPlayPlayersAtTable(), message.getNumRealTables(),
+                 message.getNumPlayTables(), message.getRealMoneyAtTables()),
+            "1 2 3 4 5");
+  EXPECT_EQ(message.toDebugString(),
             L"[NumPlayersLoggedInMsg: iRealPlayersAtTable=1, iPlayPlayersAtTable=2, iNumRealTables=3, "
             L"iNumPlayTables=4, iRealMoneyAtTables=5]");
 }

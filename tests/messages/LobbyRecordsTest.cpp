@@ -87,8 +87,15 @@ TEST(TreeNodeInfo, AnswersForItsBits) {
   appendNode(out, 1, -128, 0b101, 3);
   const auto node = decode<TreeNodeInfo>(out);
   EXPECT_EQ(told(node.isSubscribable(), node.wasLastSelectedNode(), node.isPrivate(), node.isTournamentNode(),
-                 node.isRingGameNode(), node.getNumSubNodes()),
-            "1 0 1 1 0 0");
+                 node.getNumSubNodes()),
+            "1 0 1 1 0");
+  const std::string kinds[] = {"1 0 0", "0 1 0", "0 0 1", "0 0 1", "0 0 0"};
+  for (int lobbyType = 0; lobbyType < 5; ++lobbyType) {
+    ByteStream body;
+    appendNode(body, 1, 0, 0, lobbyType);
+    const auto ofType = decode<TreeNodeInfo>(body);
+    EXPECT_EQ(told(ofType.isRootNode(), ofType.isRingGameNode(), ofType.isTournamentNode()), kinds[lobbyType]);
+  }
   EXPECT_EQ(TreeNodeInfo(1, 2, true, 3).toDebugString(),
             L"[TreeNodeInfo - iId=1, iNameId=2, iDefaultName=, iPort=3, iNodeType=1, iLobbyType=-1");
 }

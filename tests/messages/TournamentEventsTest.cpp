@@ -1,8 +1,11 @@
 #include <gtest/gtest.h>
 #include <herald/messages/ClientMessageFactory.h>
 #include <herald/messages/RebuyEvents.h>
+#include <herald/messages/TourSummaryEvents.h>
 #include <herald/messages/TournamentCreationEvents.h>
 #include <herald/messages/TournamentLobbyEvents.h>
+#include <herald/messages/info_objects/TournamentLobbyPlayerInfo.h>
+#include <herald/messages/info_objects/TournamentLobbyTableInfo.h>
 #include <herald/platform/keystone/Exceptions.h>
 #include <herald/platform/keystone/UTFEncoder.h>
 #include <tests/support/RecordingSink.h>
@@ -138,6 +141,53 @@ TEST(ProgressMessages, HandOutWhatTheyCarry) {
   EXPECT_THROW(knockout.getTicketPrize(-1), std::invalid_argument);
 }
 
+TEST(ProgressMessages, AnswerTheirFields) {
+  const WithRecordingSink recording;
+  expectTold<TourBreakInfo>("-35000 3501 -3502 -3503", [](auto& m) {
+    return told(m.getRemainingMs(), m.getNumberOfEntrants(), m.getNumberOfRemainingPlayers(), m.getAverageChipStack());
+  });
+  expectTold<TourBreakNotification>("3520000000000 -3521",
+                                    [](auto& m) { return told(m.getMsUntilNextBreak(), m.getNextBreakDurationMs()); });
+  expectTold<TourLevelInfoMsg>("-3561 356200 -3563 -560/56 570/57 580/-58 0 1", [](auto& m) {
+    const TourLevelInfo& level = m.getTourLevelInfo();
+    return told(level.getCurrentLevel(), level.getMsAtThisLevel(), level.getNumHandsAtThisLevel(),
+                level.getSmallBlind(), level.getBigBlind(), level.getAnte(), level.usesBlinds(), level.usesAnte());
+  });
+  expectTold<TourKnockoutInfo>("3611 Æsop -3612",
+                               [](auto& m) { return told(m.getPlayerId(), m.getPlayerName(), m.getFinalPosition()); });
+  expectTold<TourPlayerLeave>("-363 Bord å", [](auto& m) { return told(m.getPlayerId(), m.getTableMovingToName()); });
+  expectTold<TourPlayerArrive>("Ñandú Bord ä",
+                               [](auto& m) { return told(m.getPlayerName(), m.getTableArrivingFromName()); });
+  EXPECT_EQ(golden<TourFlightEndNotification>().getRemainingMs(), -3650);
+  EXPECT_EQ(golden<MonetaryPrizeInfo>().getPrize(), Money(-610, 61));
+  EXPECT_EQ(golden<TicketPrizeInfo>().getPrize(), TournamentTicket(L"Ticket \u21161"));
+}
+
+TEST(SummaryMessages, AnswerTheirFields) {
+  expectTold<SpecificTourSummary>("610/61 -620/62 -4 63 640/-64 1 -65", [](auto& m) {
+    const SpecificLobbyPlayerInfo& user = m.getPlayerInfo();
+    return told(user.getLargestChipStack(), user.getAverageChipStack(), user.getStatusInTour(), user.getUserRanking(),
+                user.getUserChipStack(), user.isUserSittingAtTable(), user.getTableIdForUser());
+  });
+  expectTold<SpecificTourSummary>("-310000 32 1 51 -52 530000 2400/24", [](auto& m) {
+    const LevelStructureInfo levels = m.getTourSummary().getLevelStructure();
+    const FlightInfo flight = m.getTourSummary().getFlightInfo();
+    return told(levels.getDurationMs(), levels.getDurationInHands(), levels.isAdaptive(), flight.getMainEventId(),
+                flight.getNumPlayersInMainEvent(), flight.getFlightDurationMs(),
+                m.getTourSummary().getPrizeStructure().getAddedCash());
+  });
+  expectTold<SpecificTourSummary>("41 -42000 1 430/43 -440/44 450/45 460/-46", [](auto& m) {
+    const RebuyInfo rebuys = m.getTourSummary().getRebuyInfo();
+    return told(rebuys.getNumberOfRebuys(), rebuys.getRebuyPeriodDurationMs(), rebuys.hasAddon(), rebuys.getRebuy(),
+                rebuys.getRebuyCost(), rebuys.getAddon(), rebuys.getAddonCost());
+  });
+  expectTold<SpecificTourSummaryUpdate>("2011 7 -2012 2013 2017000 -2018 -8", [](auto& m) {
+    const TourSummaryUpdate& update = m.getTourSummaryUpdate();
+    return told(update.getTournamentId(), update.getStatus(), update.getEntrants(), update.getCurrentNumberOfPlayers(),
+                update.getStartTimeMs(), update.getNumberOfPlayersInMainEvent(), update.getRegistrationStatus());
+  });
+}
+
 // The lobby of a tournament
 
 TEST(TournamentReplies, EchoTheRequestWithAStatus) {
@@ -160,6 +210,10 @@ TEST(WinClientTournamentInfo, HasItsBigBlindsInTheUnitOfTheStartingChipsAndItsTy
   ASSERT_EQ(info.numberOfBigBlinds(), 2);
   EXPECT_EQ(info.bigBlind(1), Money(-200, 34));
   for (const int outside : {-1, 2}) EXPECT_THROW(info.bigBlind(outside), std::invalid_argument);
+
+  EXPECT_EQ(told(info.getTournamentId(), info.getNrOfEnrolled(), info.getEntryLevel(), info.getNrOfWinners(),
+                 info.getTournamentType(), info.getPlayerStatus(), info.getName(), info.getDescription()),
+            "-3121 3122 3123 -3124 -5 -6 Årets final Beschreibung");
 
   const WinClientTournamentInfo fresh;
   EXPECT_EQ(fresh.getGameType()->getValue(), GameTypes::AllowedGameType::UNKNOWN);
@@ -187,6 +241,17 @@ TEST(LobbyLists, HandOutTheChangesInOrder) {
   ASSERT_EQ(tours.getNumberTours(), 2);
   EXPECT_EQ(tours.getEnteredTour(1).getNodeId(), 3244);
   for (const int outside : {-1, 2}) EXPECT_THROW(tours.getEnteredTour(outside), std::invalid_argument);
+
+  EXPECT_EQ(valuesOf(golden<LobbyTourInvitationMsg>().getInvitation()), *goldenCase("LobbyTourInvitationMsg").values);
+  const auto player =
+      read<TournamentLobbyPlayerInfo>("FFFFFF4D 0001 41 000000B4 FFFFFFFFFFFFFF4B 8A 000000B7 FFFFFF48");
+  EXPECT_EQ(told(player.getPlayerId(), player.getNick(), player.getRanking(), player.getCredits(), player.getStatus(),
+                 player.getTableId(), player.getPing()),
+            "-179 A 180 -181 -118 183 -184");
+  const auto seats = read<TournamentLobbyTableInfo>("000000B9 FFFFFF46 0001 42 0001 43 FFFFFF45");
+  EXPECT_EQ(
+      told(seats.getTableId(), seats.getTournamentId(), seats.getName(), seats.getStatus(), seats.getNumPlayers()),
+      "185 -186 B C -187");
 
   const auto ranking = golden<LobbyTablePlayerList>();
   EXPECT_EQ(ranking.getTableId(), -372);
