@@ -227,6 +227,25 @@ TEST(Accessors, OfConstructedRecords) {
   EXPECT_EQ(told(settings.getGameType()->getValue(), settings.getLimitType()->getValue()), "2 1");
 }
 
+TEST(Accessors, OfRecordsTakeValues) {
+  PingInfoInfo ping;
+  ping.setNick(L"n");
+  ping.setPing(-1);
+  ping.setMoneyAtTable(Money(2, 3));
+  EXPECT_EQ(valuesOf(ping), "\"n\" -1 3 2");
+  auto game = golden<GameInfo>();
+  game.setNrPlayersWatching(-4);
+  EXPECT_EQ(game.getNrPlayersWatching(), -4);
+  AmountInfo amount;
+  TesselInt number;
+  TesselByte small;
+  TesselBool flag;
+  TesselIntBitMask mask(0);
+  amount.setAmount(LLONG_MIN), number.setValue(INT_MIN), small.setValue(-128), flag.setValue(true), mask.setMask(-2);
+  EXPECT_EQ(told(amount.getAmount(), number.getValue(), small.getIntValue(), flag.getValue(), mask.getMask()),
+            "-9223372036854775808 -2147483648 -128 1 -2");
+}
+
 TEST(Accessors, OfRequests) {
   const ServerInTurnAction action(1, 2, 3, InTurnAction::InTurnActionType{4}, 5);
   EXPECT_EQ(told(action.getBetRound(), action.getActionType(), action.getAmount()), "3 4 5");

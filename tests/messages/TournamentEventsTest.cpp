@@ -181,10 +181,12 @@ TEST(SummaryMessages, AnswerTheirFields) {
     return told(rebuys.getNumberOfRebuys(), rebuys.getRebuyPeriodDurationMs(), rebuys.hasAddon(), rebuys.getRebuy(),
                 rebuys.getRebuyCost(), rebuys.getAddon(), rebuys.getAddonCost());
   });
-  expectTold<SpecificTourSummaryUpdate>("2011 7 -2012 2013 2017000 -2018 -8", [](auto& m) {
+  expectTold<SpecificTourSummaryUpdate>("2011 7 -2012 2013 2014 2016/-2015 2017000 -2018 -8", [](auto& m) {
     const TourSummaryUpdate& update = m.getTourSummaryUpdate();
     return told(update.getTournamentId(), update.getStatus(), update.getEntrants(), update.getCurrentNumberOfPlayers(),
-                update.getStartTimeMs(), update.getNumberOfPlayersInMainEvent(), update.getRegistrationStatus());
+                update.getPrizeStructureUpdate().getNumberOfPlayersInPayout(),
+                update.getPrizeStructureUpdate().getTotalPrizePool(), update.getStartTimeMs(),
+                update.getNumberOfPlayersInMainEvent(), update.getRegistrationStatus());
   });
 }
 
