@@ -1,11 +1,12 @@
 #pragma once
 #include <herald/platform/keystone/Export.h>
 
+#include <concepts>
 #include <memory>
 #include <new>
 #include <type_traits>
 
-// The family has no virtual destructor: its kinds are trivially destructible, which is asserted below.
+// The family has no virtual destructor: its kinds are trivially destructible, which is asserted below, and final.
 // NOLINTBEGIN(cppcoreguidelines-virtual-class-destructor)
 
 namespace Tessel {
@@ -64,6 +65,11 @@ class HERALD_API GameModelNotifMessage {
 /// needs no virtual destructor.
 template <>
 struct std::default_delete<Tessel::GameModelNotifMessage> {
+  constexpr default_delete() noexcept = default;
+  /// An owner of a kind becomes an owner of the base.
+  template <std::derived_from<Tessel::GameModelNotifMessage> Kind>
+  constexpr default_delete(const default_delete<Kind>&) noexcept {}
+
   void operator()(Tessel::GameModelNotifMessage* message) const {
     Tessel::GameModelNotifMessage::operator delete(message, std::destroying_delete_t());
   }
@@ -71,7 +77,7 @@ struct std::default_delete<Tessel::GameModelNotifMessage> {
 
 namespace Tessel {
 
-class HERALD_API GMGameIdSwitch : public GameModelNotifMessage {
+class HERALD_API GMGameIdSwitch final : public GameModelNotifMessage {
  public:
   GMGameIdSwitch(int gameId, int newGameId) : GameModelNotifMessage(gameId), newGameId_(newGameId) {}
 
@@ -83,7 +89,7 @@ class HERALD_API GMGameIdSwitch : public GameModelNotifMessage {
   int newGameId_;
 };
 
-class HERALD_API GMGameSelected : public GameModelNotifMessage {
+class HERALD_API GMGameSelected final : public GameModelNotifMessage {
  public:
   GMGameSelected(int gameId, int selectedGameId) : GameModelNotifMessage(gameId), selectedGameId_(selectedGameId) {}
 
@@ -95,7 +101,7 @@ class HERALD_API GMGameSelected : public GameModelNotifMessage {
   int selectedGameId_;
 };
 
-class HERALD_API GMFullScreenMode : public GameModelNotifMessage {
+class HERALD_API GMFullScreenMode final : public GameModelNotifMessage {
  public:
   GMFullScreenMode(int gameId, bool fullScreen) : GameModelNotifMessage(gameId), fullScreen_(fullScreen) {}
 
@@ -107,14 +113,14 @@ class HERALD_API GMFullScreenMode : public GameModelNotifMessage {
   bool fullScreen_;
 };
 
-class HERALD_API GMLobby : public GameModelNotifMessage {
+class HERALD_API GMLobby final : public GameModelNotifMessage {
  public:
   explicit GMLobby(int gameId) : GameModelNotifMessage(gameId) {}
 
   void handle(GameModelNotificationHandler* handler) override;
 };
 
-class HERALD_API GMAttention : public GameModelNotifMessage {
+class HERALD_API GMAttention final : public GameModelNotifMessage {
  public:
   GMAttention(int gameId, bool needAttention) : GameModelNotifMessage(gameId), needAttention_(needAttention) {}
 
@@ -126,7 +132,7 @@ class HERALD_API GMAttention : public GameModelNotifMessage {
   bool needAttention_;
 };
 
-class HERALD_API GMLeave : public GameModelNotifMessage {
+class HERALD_API GMLeave final : public GameModelNotifMessage {
  public:
   /// Why the table is left; the values are the application's.
   enum class ReasonForLeaving : int {};

@@ -21,7 +21,8 @@ std::vector<std::unique_ptr<T>> MailBox<T, N>::pickupAll() {
   return locked([&] {
     std::vector<std::unique_ptr<T>> messages;
     messages.reserve(static_cast<std::size_t>(queue_.size()));
-    while (!queue_.isEmpty()) messages.emplace_back(takeOldest());
+    // What the post office posts meanwhile stays: the list never has to grow with a message in hand.
+    while (messages.size() < messages.capacity() && !queue_.isEmpty()) messages.emplace_back(takeOldest());
     return messages;
   });
 }

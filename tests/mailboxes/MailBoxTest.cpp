@@ -69,7 +69,7 @@ TEST(MailBox, KeepsTheOrderTellsThePostOfficeAndDeletesWhatIsLeft) {
 
 TEST(MailBox, WorksWithoutAPostOfficeAndWithMessagesWithoutAVirtualDestructor) {
   GameModelNotifMailbox box(nullptr);
-  box.post(new GMLobby(1));
+  box.post(std::make_unique<GMLobby>(1));
   box.post(new GMLeave(2, GMLeave::ReasonForLeaving{3}, 4));
   EXPECT_EQ(box.pickupOwned()->getGameId(), 1);
 }
@@ -90,6 +90,22 @@ TEST(MailBox, APostOfficeMayCallBackIntoTheMailbox) {
   box.post(new Posted(0, 1));
   EXPECT_TRUE(office.foundMail && !office.foundMore);
   EXPECT_TRUE(box.isEmpty());
+}
+
+TEST(MailBox, PickingAllUpLeavesWhatThePostOfficePostsMeanwhile) {
+  class Echo : public PostOffice {
+   public:
+    void pickup() override {
+      if (box != nullptr) box->post(new Posted(0, 1));
+    }
+    LobbyToGameMailBox* box = nullptr;
+  } office;
+  LobbyToGameMailBox box(&office);
+  office.box = &box;
+  for (int i = 0; i < 3; ++i) box.post(new Posted(0, i));
+  EXPECT_EQ(box.pickupAll().size(), 3u);
+  office.box = nullptr;
+  EXPECT_EQ(box.pickupAll().size(), 3u);
 }
 
 TEST(MailBox, ManyProducersOneConsumer) {
