@@ -5,16 +5,21 @@
 
 namespace Tessel {
 
-CurrentServerTimeModel CurrentServerTimeModel::staticInstance;
-
 CurrentServerTimeModel::CurrentServerTimeModel() = default;
 CurrentServerTimeModel::~CurrentServerTimeModel() = default;
 
-CurrentServerTimeModel* CurrentServerTimeModel::getInstance() { return &staticInstance; }
+CurrentServerTimeModel* CurrentServerTimeModel::getInstance() {
+  // Made by whoever asks first, which may be the constructor of a global object; never destroyed: objects that outlive
+  // main may still ask.
+  static CurrentServerTimeModel& instance = *new CurrentServerTimeModel;
+  return &instance;
+}
 
-void CurrentServerTimeModel::setCurrentServerTime(TsTime time) { staticInstance.synchronise(time); }
+CurrentServerTimeModel& CurrentServerTimeModel::staticInstance = *getInstance();
 
-TsTime CurrentServerTimeModel::getTime() { return staticInstance.estimate(); }
+void CurrentServerTimeModel::setCurrentServerTime(TsTime time) { getInstance()->synchronise(time); }
+
+TsTime CurrentServerTimeModel::getTime() { return getInstance()->estimate(); }
 
 void CurrentServerTimeModel::synchronise(TsTime time) {
   const std::lock_guard guard(getLock());

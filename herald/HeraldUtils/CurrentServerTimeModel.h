@@ -31,7 +31,7 @@ class HERALD_API CurrentServerTimeModel : public MVCModel {
   void synchronise(TsTime time);
   TsTime estimate();
 
-  static CurrentServerTimeModel staticInstance;
+  static CurrentServerTimeModel& staticInstance;
 
   TsTime serverTime_{-1};
   std::int64_t tickCount_ = 0;

@@ -1,5 +1,6 @@
 #include <herald/HeraldUtils/NodeTimer.h>
 #include <herald/platform/keystone/Format.h>
+#include <herald/platform/keystone/SaturatingArithmetic.h>
 #include <herald/platform/keystone/SystemClock.h>
 
 namespace Tessel {
@@ -12,7 +13,7 @@ int NodeTimer::setType(char type) {
 }
 
 std::wstring NodeTimer::toDebugString() const {
-  const std::int64_t secondsFromNow = (timeStamp_ - SystemClock::getProcessClock()) / 1000;
+  const std::int64_t secondsFromNow = SaturatingArithmetic::subtract(timeStamp_, SystemClock::getProcessClock()) / 1000;
   return format(L"[NodeTimer id=%d, type=%d timestamp=%d %d sec from now]", id_, static_cast<signed char>(type_),
                 timeStamp_, secondsFromNow);
 }

@@ -1,6 +1,8 @@
 #include <herald/HeraldUtils/ResourceTexts.h>
 #include <herald/HeraldUtils/TournamentBuyIn.h>
 
+#include <atomic>
+
 namespace Tessel {
 
 namespace {
@@ -22,9 +24,12 @@ std::wstring TournamentBuyIn::getBuyInString(const Money& buyIn, const Money& fe
 }
 
 std::wstring TournamentBuyIn::getInvalidBuyInString() {
-  // Also a text that could not be found is not looked up again. The language makes the first call safe from any thread.
-  static const std::wstring cInvalidBuyInString = findResourceText(FILE_NAME, SECTION, L"InvalidBuyInString");
-  return cInvalidBuyInString;
+  // Also a text that could not be found is not looked up again. The language makes the first call safe from any thread;
+  // the report comes after it, since a sink may throw, or ask for this text itself.
+  static const LookedUpText cInvalidBuyInString = lookUpText(FILE_NAME, SECTION, L"InvalidBuyInString");
+  static std::atomic_flag reported;
+  if (cInvalidBuyInString.failure && !reported.test_and_set()) cInvalidBuyInString.failure->report();
+  return cInvalidBuyInString.text;
 }
 
 }  // namespace Tessel

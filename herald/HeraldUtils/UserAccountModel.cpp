@@ -5,12 +5,17 @@
 
 namespace Tessel {
 
-UserAccountModel UserAccountModel::cInstance;
-
 UserAccountModel::UserAccountModel() = default;
 UserAccountModel::~UserAccountModel() = default;
 
-UserAccountModel& UserAccountModel::getUserAccountModel() { return cInstance; }
+UserAccountModel& UserAccountModel::getUserAccountModel() {
+  // Made by whoever asks first, which may be the constructor of a global object; never destroyed: objects that outlive
+  // main may still ask.
+  static UserAccountModel& instance = *new UserAccountModel;
+  return instance;
+}
+
+UserAccountModel& UserAccountModel::cInstance = getUserAccountModel();
 
 void UserAccountModel::newPriorityList(const TsArray<Money>& balances) {
   const std::lock_guard guard(getLock());

@@ -31,7 +31,7 @@ class HERALD_API UserAccountModel : public MVCModel {
 
   int getIndex(int monetaryUnitId) const;
 
-  static UserAccountModel cInstance;
+  static UserAccountModel& cInstance;
 
   TsArray<Money> priorityList_;
 };

@@ -10,6 +10,10 @@
 #include <tests/support/ManualClock.h>
 #include <tests/support/RecordingSink.h>
 
+#include <limits>
+#include <stdexcept>
+#include <string>
+
 namespace Tessel {
 namespace {
 
@@ -86,6 +90,16 @@ TEST(NodeTimer, SaysHowFarOffItIs) {
   timer.setTimer(7500);
   EXPECT_EQ(timer.setType(static_cast<char>(0xFF)), -1);
   EXPECT_EQ(timer.toDebugString(), L"[NodeTimer id=4, type=-1 timestamp=7500 -2 sec from now]");
+
+  using Stamp = std::numeric_limits<long>;
+  using Milliseconds = std::numeric_limits<std::int64_t>;
+  const auto expectSeconds = [&](long timeStamp, std::int64_t now, std::int64_t seconds) {
+    manual.clock->process = now;
+    timer.setTimer(timeStamp);
+    EXPECT_TRUE(timer.toDebugString().ends_with(L" " + std::to_wstring(seconds) + L" sec from now]"));
+  };
+  expectSeconds(Stamp::max(), Milliseconds::min(), Milliseconds::max() / 1000);
+  expectSeconds(Stamp::min(), Milliseconds::max(), Milliseconds::min() / 1000);
 }
 
 TEST(DateUtils, DaysOfAMonth) {
@@ -121,7 +135,24 @@ TEST(ResourceTexts, ComeFromTheResourcesAndAreReportedWhenTheyAreMissing) {
   for (const wchar_t* section : {L"BuyInTexts", L"MonthText"}) resources.removeSection(section);
   EXPECT_EQ(DateUtils::getMonthString(1), L"");
   EXPECT_EQ(TournamentBuyIn(Money(1000, 7), Money()).getStringRepresentation(), L"");
-  EXPECT_EQ(TournamentBuyIn().getStringRepresentation(), L"");
+  {
+    // Its sink may throw, and ask for the same text.
+    class Asking : public StandardErrorSink {
+     public:
+      void report(const KVRException& exception) override {
+        EXPECT_EQ(TournamentBuyIn().getStringRepresentation(), L"");
+        recorder->report(exception);
+        throw std::runtime_error("full");
+      }
+      std::shared_ptr<RecordingSink> recorder;
+    };
+    const auto asking = std::make_shared<Asking>();
+    asking->recorder = recording.sink;
+    BugReporter::getInstance().setSink(asking);
+    EXPECT_THROW(TournamentBuyIn().getStringRepresentation(), std::runtime_error);
+    EXPECT_EQ(TournamentBuyIn().getStringRepresentation(), L"");
+    BugReporter::getInstance().setSink(recording.sink);
+  }
   EXPECT_EQ(reports(), 3u);
   resources.restoreEnglish();
   EXPECT_EQ(TournamentBuyIn().getStringRepresentation(), L"");
