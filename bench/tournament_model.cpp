@@ -1,4 +1,4 @@
-// A batch of ten changes among more and more registered players.
+// Changes of the model of a tournament among more and more players.
 
 #include <benchmark/benchmark.h>
 #include <herald/SpecificTournamentModel/SpecificTournamentController.h>
@@ -32,6 +32,17 @@ void changeTenPlayers(benchmark::State& state) {
   for (auto _ : state) controller.updateRegisteredPlayers(batch, {});
 }
 
+void replaceRanking(benchmark::State& state) {
+  SpecificTournamentModel model(1);
+  SpecificTournamentController controller(model);
+  TsArray<RankedPlayer> players;
+  for (int place = 1; place <= state.range(0); ++place)
+    players.add(RankedPlayer(place, place, L"Player", Money(1500, 1), false));
+  for (auto _ : state) controller.tourRankInfo(players);
+  state.SetItemsProcessed(state.iterations() * state.range(0));
+}
+
 BENCHMARK(changeTenPlayers)->Arg(100)->Arg(10'000)->Arg(1'000'000);
+BENCHMARK(replaceRanking)->Arg(100)->Arg(32'767);
 
 }  // namespace

@@ -1,12 +1,23 @@
 #include <herald/SpecificTournamentModel/TournamentPlayerRankingModel.h>
 
 #include <algorithm>
+#include <set>
+#include <vector>
 
 namespace Tessel {
 
 void TournamentPlayerRankingModel::addPlayer(const RankedPlayer& player) {
   removePlayerByRank(player.getPosition());
   players_.add(player);
+}
+
+void TournamentPlayerRankingModel::replaceAllPlayers(const TsArray<RankedPlayer>& players) {
+  // Of those at one position the last counts, and stands where it came.
+  std::set<int> taken;
+  std::vector<RankedPlayer> kept;
+  for (int i = players.size() - 1; i >= 0; --i)
+    if (taken.insert(players[i].getPosition()).second) kept.push_back(players[i]);
+  players_ = TsArray<RankedPlayer>(kept.rbegin(), kept.rend());
 }
 
 void TournamentPlayerRankingModel::removePlayerByRank(int rank) {

@@ -11,6 +11,8 @@ class HERALD_API TournamentPlayerRankingModel {
   void addPlayer(const RankedPlayer& player);
   /// Nothing happens when no player has that position.
   void removePlayerByRank(int rank);
+  /// As if all were removed and then each of these added, in time n log n. The user's own place stays.
+  void replaceAllPlayers(const TsArray<RankedPlayer>& players);
   /// The user's own place stays.
   void removeAllPlayers() { players_.clear(); }
 

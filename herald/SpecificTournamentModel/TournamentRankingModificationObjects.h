@@ -42,8 +42,7 @@ class TournamentTopPlayersModificationObject : public TournamentPlayerRankingMod
   }
 
   bool modify(TournamentPlayerRankingModel& ranking) override {
-    ranking.removeAllPlayers();
-    for (const RankedPlayer& player : players_) ranking.addPlayer(player);
+    ranking.replaceAllPlayers(players_);
     return true;
   }
 

@@ -27,6 +27,9 @@ TEST(TournamentPlayerRankingModel, PositionsStayUniqueAndTheUserStays) {
   EXPECT_EQ(player.getPlayerId(), 30);
 
   ranking.setUserRanking(rankedPlayer(7, 4));
+  TournamentTopPlayersModificationObject twice({rankedPlayer(1, 5), rankedPlayer(2, 6), rankedPlayer(3, 5)});
+  EXPECT_TRUE(twice.modify(ranking));
+  EXPECT_EQ(playerIds(ranking.getRankedPlayers()), (std::vector<int>{2, 3}));
   TournamentTopPlayersModificationObject top({rankedPlayer(1, 1)});
   EXPECT_TRUE(top.modify(ranking));
   EXPECT_EQ(playerIds(ranking.getRankedPlayers()), (std::vector<int>{1}));
