@@ -35,14 +35,18 @@ ConditionedClientMessages::~ConditionedClientMessages() = default;
 
 bool ConditionedClientMessages::delayMessage(ClientMessage* message) {
   if (message == nullptr || allConditionsAreMet()) return false;
-  delayedMessages_.push_back(std::unique_ptr<const ClientMessage>(message));
+  hold().reset(message);
   return true;
 }
 
 bool ConditionedClientMessages::delayMessage(std::unique_ptr<ClientMessage>& message) {
   if (!message || allConditionsAreMet()) return false;
-  delayedMessages_.push_back(std::move(message));
+  hold() = std::move(message);
   return true;
+}
+
+std::unique_ptr<const ClientMessage>& ConditionedClientMessages::hold() {
+  return *delayedMessages_.emplace_back(std::make_shared<std::unique_ptr<const ClientMessage>>());
 }
 
 void ConditionedClientMessages::setCondition(unsigned int condition) {
@@ -60,7 +64,7 @@ void ConditionedClientMessages::processMessages() {
     const auto message = std::move(delayedMessages_.front());
     delayedMessages_.pop_front();
     if (due > 0) --due;
-    message->handle(handler_);
+    (*message)->handle(handler_);
   }
 }
 

@@ -25,10 +25,11 @@ class HERALD_API ConditionedClientMessages {
   ~ConditionedClientMessages();
 
   /// While a condition is pending: takes ownership of the message, holds it and answers true. Otherwise, and for null,
-  /// answers false: the message stays the caller's, to be handled at once.
-  bool delayMessage(ClientMessage* message);
+  /// answers false: the message stays the caller's, to be handled at once. So it does when memory runs out, which
+  /// throws `std::bad_alloc`.
+  [[nodiscard]] bool delayMessage(ClientMessage* message);
   /// The same; `message` is null afterwards when the answer is true.
-  bool delayMessage(std::unique_ptr<ClientMessage>& message);
+  [[nodiscard]] bool delayMessage(std::unique_ptr<ClientMessage>& message);
 
   /// The condition is met. If none is pending then, delivers what is held. A handler may call back into this object:
   /// what it makes held is delivered after what was held before, and as soon as no condition is pending. When a handler
@@ -40,11 +41,14 @@ class HERALD_API ConditionedClientMessages {
 
  private:
   bool allConditionsAreMet() const { return pendingConditions_.empty(); }
+  /// A new place behind the messages that are held.
+  std::unique_ptr<const ClientMessage>& hold();
   void processMessages();
 
   AbstractClientMessageHandler& handler_;
   std::set<unsigned int> pendingConditions_;
-  std::deque<std::shared_ptr<const ClientMessage>> delayedMessages_;
+  /// The owner of a message is shared, rather than the message, so that memory is taken before the message is.
+  std::deque<std::shared_ptr<std::unique_ptr<const ClientMessage>>> delayedMessages_;
   bool delivering_ = false;
 };
 

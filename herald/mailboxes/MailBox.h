@@ -14,7 +14,7 @@ namespace Tessel {
 /// The hand-over point of messages between threads: any thread posts, one consumer picks up, in the order of posting. T
 /// is the base class of a message family. Every operation is safe from any thread and holds the mailbox's lock for its
 /// whole work, the call into the post office included; that lock is recursive, so the post office may call back into
-/// the mailbox.
+/// the mailbox. What the post office throws is reported to `BugReporter`; the message is in, or out, all the same.
 template <class T, int>
 class HERALD_API MailBox {
  public:
@@ -29,16 +29,17 @@ class HERALD_API MailBox {
   bool isEmpty() const { return queue_.isEmpty(); }
 
   /// Takes ownership of the message. Null is queued, too, and comes back as null. When memory runs out,
-  /// `std::bad_alloc` leaves the queue and the post office as they were and the message the caller's.
+  /// `std::bad_alloc` leaves the queue and the post office as they were and the message the caller's; nothing else
+  /// comes out of it.
   void post(T* message);
   /// The same; a message that could not be queued is destroyed.
   void post(std::unique_ptr<T> message);
 
   /// The oldest message, which is the caller's now, or null when there is none.
-  T* pickup();
-  std::unique_ptr<T> pickupOwned() { return std::unique_ptr<T>(pickup()); }
+  [[nodiscard]] T* pickup();
+  [[nodiscard]] std::unique_ptr<T> pickupOwned() { return std::unique_ptr<T>(pickup()); }
   /// All that is queued, the oldest first, taken under one lock.
-  std::vector<std::unique_ptr<T>> pickupAll();
+  [[nodiscard]] std::vector<std::unique_ptr<T>> pickupAll();
 
  private:
   // While the mailbox calls out under its lock, what it calls may come back on the same thread. Noting the thread only

@@ -1,5 +1,6 @@
 #pragma once
 #include <herald/mailboxes/MailBox.h>
+#include <herald/platform/keystone/BugReporter.h>
 
 // Included by the source file of the mailboxes only, which compiles each mailbox once.
 
@@ -11,7 +12,7 @@ MailBox<T, N>::~MailBox() {
     const CallingOut messageDestructors(*this);
     while (!queue_.isEmpty()) {
       std::unique_ptr<T>(queue_.pop()).reset();
-      if (postOffice_ != nullptr) postOffice_->pickup();
+      tell(&PostOffice::pickup);
     }
   });
 }
@@ -30,7 +31,11 @@ std::vector<std::unique_ptr<T>> MailBox<T, N>::pickupAll() {
 template <class T, int N>
 void MailBox<T, N>::callOut(void (PostOffice::*event)()) {
   const CallingOut callingOut(*this);
-  (postOffice_->*event)();
+  try {
+    (postOffice_->*event)();
+  } catch (...) {
+    reportCurrentException(L"mailboxes/MailBox");
+  }
 }
 
 }  // namespace Tessel

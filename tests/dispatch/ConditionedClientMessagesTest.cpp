@@ -80,7 +80,7 @@ TEST_F(ConditionedClientMessagesTest, WithoutConditionsHoldsNothing) {
 TEST_F(ConditionedClientMessagesTest, DestroysWhatIsStillHeldWithoutDeliveringIt) {
   {
     ConditionedClientMessages held(handler, 1);
-    held.delayMessage(new Numbered(1));
+    EXPECT_TRUE(held.delayMessage(new Numbered(1)));
   }
   EXPECT_EQ(living, 0);
   EXPECT_EQ(handler.delivered, Numbers());
@@ -88,7 +88,7 @@ TEST_F(ConditionedClientMessagesTest, DestroysWhatIsStillHeldWithoutDeliveringIt
 
 TEST_F(ConditionedClientMessagesTest, AHandlerThatThrowsLosesNoMessage) {
   ConditionedClientMessages held(handler, 1);
-  for (const int number : {1, 2, 3}) held.delayMessage(new Numbered(number));
+  for (const int number : {1, 2, 3}) EXPECT_TRUE(held.delayMessage(new Numbered(number)));
   handler.onDelivery = [](int number) {
     if (number == 2) throw std::runtime_error("refused");
   };
@@ -100,8 +100,8 @@ TEST_F(ConditionedClientMessagesTest, AHandlerThatThrowsLosesNoMessage) {
 
 TEST_F(ConditionedClientMessagesTest, AHandlerMayCallBack) {
   ConditionedClientMessages held(handler, 1);
-  held.delayMessage(new Numbered(1));
-  held.delayMessage(new Numbered(2));
+  EXPECT_TRUE(held.delayMessage(new Numbered(1)));
+  EXPECT_TRUE(held.delayMessage(new Numbered(2)));
   handler.onDelivery = [&](int number) {
     if (number != 1) return;
     std::unique_ptr<ClientMessage> message = std::make_unique<Numbered>(3);
@@ -118,7 +118,7 @@ TEST_F(ConditionedClientMessagesTest, AHandlerMayCallBack) {
     if (number == 4) held.resetCondition(6);
   };
   held.resetCondition(0);
-  for (const int number : {4, 5}) held.delayMessage(new Numbered(number));
+  for (const int number : {4, 5}) EXPECT_TRUE(held.delayMessage(new Numbered(number)));
   held.setCondition(0);
   EXPECT_EQ(handler.delivered, (Numbers{1, 2, 3, 4, 5})) << "what was held is delivered all the same";
   EXPECT_TRUE(held.delayMessage(new Numbered(6))) << "condition 6 is pending";
@@ -126,7 +126,7 @@ TEST_F(ConditionedClientMessagesTest, AHandlerMayCallBack) {
 
 TEST_F(ConditionedClientMessagesTest, ACopySharesTheMessagesAndEachIsDestroyedOnce) {
   ConditionedClientMessages held(handler, 1);
-  held.delayMessage(new Numbered(1));
+  EXPECT_TRUE(held.delayMessage(new Numbered(1)));
   ConditionedClientMessages copy(held);
   held.setCondition(0);
   EXPECT_EQ(living, 1);

@@ -2,8 +2,10 @@
 #include <herald/mailboxes/GameModelNotifMessages.h>
 #include <herald/mailboxes/LobbyToGameMessages.h>
 #include <herald/mailboxes/MailBoxes.h>
+#include <tests/support/RecordingSink.h>
 
 #include <atomic>
+#include <stdexcept>
 #include <thread>
 
 namespace Tessel {
@@ -90,6 +92,24 @@ TEST(MailBox, APostOfficeMayCallBackIntoTheMailbox) {
   box.post(new Posted(0, 1));
   EXPECT_TRUE(office.foundMail && !office.foundMore);
   EXPECT_TRUE(box.isEmpty());
+}
+
+TEST(MailBox, APostOfficeThatThrowsIsReportedAndLosesNothing) {
+  class Throwing : public PostOffice {
+   public:
+    void post() override { throw std::runtime_error("closed"); }
+    void pickup() override { throw std::runtime_error("closed"); }
+  } office;
+  const WithRecordingSink recording;
+  {
+    LobbyToGameMailBox box(&office);
+    for (int number = 0; number < 4; ++number) box.post(new Posted(0, number));
+    EXPECT_EQ(numberOf(box.pickupOwned()), 0);
+    EXPECT_EQ(box.pickupAll().size(), 3u);
+    box.post(new Posted(0, 4));
+  }
+  EXPECT_EQ(living, 0);
+  EXPECT_EQ(recording.sink->reports.size(), 10u) << "of each of five messages, in and out";
 }
 
 TEST(MailBox, PickingAllUpLeavesWhatThePostOfficePostsMeanwhile) {

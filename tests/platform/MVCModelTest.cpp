@@ -114,7 +114,7 @@ TEST_F(MVCModelTest, AnExceptionIsReportedAndStopsNobody) {
   } cases[] = {
       {[] { throw ObjectNotFoundException(L"view", 1, L"no table"); }, L"no table"},
       {[] { throw std::runtime_error("no memory"); }, L"no memory"},
-      {[] { throw 1; }, L"An observer threw an unknown exception."},
+      {[] { throw 1; }, L"An exception of an unknown class."},
   };
   for (const auto& aCase : cases) {
     const WithRecordingSink recording;

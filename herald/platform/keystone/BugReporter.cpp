@@ -28,8 +28,8 @@ ReportSink::~ReportSink() = default;
 StandardErrorSink::~StandardErrorSink() = default;
 
 void StandardErrorSink::report(const KVRException& exception) {
-  std::wstring line = L"report: " + place(exception.getFile(), exception.getLine()) + L": " + exception.getText();
-  if (!exception.getDetail().empty()) line += L": " + exception.getDetail();
+  std::wstring line =
+      L"report: " + place(exception.getFile(), exception.getLine()) + L": " + UTFEncoder::toWide(exception.what());
   if (!exception.getCaughtByFile().empty())
     line += L", caught by " + place(exception.getCaughtByFile(), exception.getCaughtByLine());
   writeLine(line);
@@ -65,6 +65,31 @@ std::shared_ptr<ReportSink> BugReporter::setSink(std::shared_ptr<ReportSink> sin
   if (!sink) sink = std::make_shared<StandardErrorSink>();
   const std::lock_guard guard(lock_);
   return std::exchange(sink_, std::move(sink));
+}
+
+namespace {
+
+void reportAny(const wchar_t* caughtBy) {
+  try {
+    throw;
+  } catch (KVRException& exception) {
+    exception.setCaughtBy(caughtBy, __LINE__);
+    exception.report();
+  } catch (const std::exception& exception) {
+    KeystoneException(caughtBy, __LINE__, UTFEncoder::toWide(exception.what())).report();
+  } catch (...) {
+    KeystoneException(caughtBy, __LINE__, L"An exception of an unknown class.").report();
+  }
+}
+
+}  // namespace
+
+void reportCurrentException(const wchar_t* caughtBy) noexcept {
+  try {
+    reportAny(caughtBy);
+  } catch (...) {
+    // There is nobody left to tell.
+  }
 }
 
 void Log::append(std::wstring_view text, std::wstring_view file, int level) {

@@ -64,6 +64,10 @@ class HERALD_API BugReporter : public BugReporterInterface {
   std::shared_ptr<ReportSink> sink_;
 };
 
+/// Reports the exception that is being handled, for code that goes on as if it had not been thrown. `caughtBy` is the
+/// source file that caught it, without its extension. What the sink throws is dropped.
+HERALD_API void reportCurrentException(const wchar_t* caughtBy) noexcept;
+
 /// The log: a line of text, the source file that wrote it (without its extension), and a level from 0 (most urgent).
 class HERALD_API Log {
  public:

@@ -6,9 +6,17 @@
 
 namespace Tessel {
 
+namespace {
+
+std::wstring join(const std::wstring& text, const std::wstring& detail) {
+  return text.empty() || detail.empty() ? text + detail : text + L": " + detail;
+}
+
+}  // namespace
+
 KVRException::KVRException(std::wstring file, int line, std::wstring text, std::wstring detail)
     : file_(std::move(file)), text_(std::move(text)), detail_(std::move(detail)),
-      what_(UTFEncoder::toUTF8(detail_.empty() ? text_ : text_ + L": " + detail_)), line_(line) {}
+      what_(UTFEncoder::toUTF8(join(text_, detail_))), line_(line) {}
 
 KVRException::~KVRException() = default;
 

@@ -24,7 +24,7 @@ class HERALD_API KVRException : public std::exception {
   const std::wstring& getText() const { return text_; }
   const std::wstring& getDetail() const { return detail_; }
 
-  /// The text, then ": " and the detail where there is one, as UTF-8.
+  /// The text and the detail, as UTF-8; ": " stands between them where there are both.
   const char* what() const noexcept override { return what_.c_str(); }
 
   /// Records where the exception was caught; a report prints it.

@@ -1,6 +1,5 @@
-#include <herald/platform/keystone/Exceptions.h>
+#include <herald/platform/keystone/BugReporter.h>
 #include <herald/platform/keystone/MVCModel.h>
-#include <herald/platform/keystone/UTFEncoder.h>
 
 #include <algorithm>
 
@@ -8,18 +7,11 @@ namespace Tessel {
 
 namespace {
 
-constexpr const wchar_t* SOURCE = L"platform/keystone/MVCModel";
-
 void callReportingExceptions(MVCObserver& observer, const NotificationUpdateObject& update) {
   try {
     observer.update(update);
-  } catch (KVRException& exception) {
-    exception.setCaughtBy(SOURCE, __LINE__);
-    exception.report();
-  } catch (const std::exception& exception) {
-    KeystoneException(SOURCE, __LINE__, UTFEncoder::toWide(exception.what())).report();
   } catch (...) {
-    KeystoneException(SOURCE, __LINE__, L"An observer threw an unknown exception.").report();
+    reportCurrentException(L"platform/keystone/MVCModel");
   }
 }
 

@@ -7,7 +7,8 @@
 
 namespace Tessel {
 
-/// Is told of the changes of the models that it was added to.
+/// Is told of the changes of the models that it was added to. It is called with the model's lock held: see `MVCModel`
+/// for what it may do then, and what would wait for ever.
 class HERALD_API MVCObserver {
  public:
   virtual ~MVCObserver();
@@ -17,7 +18,9 @@ class HERALD_API MVCObserver {
 /// Base of observable models. One recursive lock guards the model's data, its list of observers and its notifications:
 /// each notification runs on the thread that made the change, with the lock held, so that two threads' notifications do
 /// not mix and an observer reads the model as the change left it. An observer must therefore not wait for another
-/// thread that uses the same model.
+/// thread that uses the same model, nor use another model: two threads that change two models whose observers read each
+/// other's wait for each other for ever. An observer that needs more than the model that calls it posts the change (a
+/// `clone` of the update) into a mailbox, and reads the models where the mailbox is emptied, with no lock held.
 ///
 /// Within a notification an observer may
 /// - remove itself or another: whoever is removed is not called any more, in the running notification either;
