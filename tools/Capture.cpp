@@ -61,8 +61,9 @@ std::optional<Packet> Capture::next() {
   if (result == PCAP_ERROR_BREAK) return std::nullopt;
   ++packets_;
   if (result < 0) throw CaptureError("packet " + std::to_string(packets_) + ": " + pcap_geterr(handle_.get()));
-  if (header->caplen < header->len) {
-    throw DamagedPacket(packets_, "cut short: " + std::to_string(header->caplen) + " of " + std::to_string(header->len)
+  if (header->caplen != header->len) {
+    throw DamagedPacket(packets_, (header->caplen < header->len ? "cut short: " : "longer than it was: ")
+                                      + std::to_string(header->caplen) + " of " + std::to_string(header->len)
                                       + " bytes were captured");
   }
   return parsePayload(packets_, {bytes, header->caplen});

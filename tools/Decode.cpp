@@ -49,16 +49,26 @@ DecodedMessage decodeMessage(const Packet& packet) {
   return ClientMessageFactory::decode(packet.id, body);
 }
 
-std::string messageColumns(const Packet& packet) {
+// What the library's own reports leave out: where the read ended, and why.
+void complainOfFailedRead(const Packet& packet, const DecodedMessage& decoded, Diagnostics& diagnostics) {
+  const bool threw = decoded.outcome == DecodeOutcome::READ_THREW;
+  if (!threw && decoded.outcome != DecodeOutcome::READ_ANSWERED_FALSE) return;
+  diagnostics.complain("packet " + std::to_string(packet.number) + ": the read failed at byte "
+                       + std::to_string(decoded.bytesRead) + " of " + std::to_string(packet.body.size())
+                       + (threw ? ": " + UTFEncoder::toUTF8(StringUtils::escapeLine(decoded.reason)) : ""));
+}
+
+std::string messageColumns(const Packet& packet, Diagnostics& diagnostics) {
   const DecodedMessage decoded = decodeMessage(packet);
+  complainOfFailedRead(packet, decoded, diagnostics);
   std::string columns = std::to_string(decoded.bytesRead) + '\t' + std::to_string(packet.body.size()) + '\t';
   if (decoded.message == nullptr) return columns + '-';
   return columns + UTFEncoder::toUTF8(StringUtils::escapeLine(decoded.message->toDebugString()));
 }
 
-std::string lineOf(const Packet& packet) {
+std::string lineOf(const Packet& packet, Diagnostics& diagnostics) {
   return std::to_string(packet.number) + '\t' + std::to_string(packet.id) + '\t' + orDash(classOf(packet)) + '\t'
-         + (packet.direction == Direction::FROM_SERVER ? messageColumns(packet) : "-\t-\t-") + '\n';
+         + (packet.direction == Direction::FROM_SERVER ? messageColumns(packet, diagnostics) : "-\t-\t-") + '\n';
 }
 
 std::string messageMembers(const Packet& packet) {
@@ -86,16 +96,18 @@ std::string jsonOf(const Packet& packet) {
 class PacketPrinter {
  public:
   PacketPrinter(OutputFormat format, Output& output, Diagnostics& diagnostics)
-      : format_(format), output_(output), sink_(std::make_shared<PacketReportSink>(diagnostics)), installed_(sink_) {}
+      : format_(format), output_(output), diagnostics_(diagnostics),
+        sink_(std::make_shared<PacketReportSink>(diagnostics)), installed_(sink_) {}
 
   void print(const Packet& packet) {
     sink_->setPacket(packet.number);
-    output_.write(format_ == OutputFormat::JSON ? jsonOf(packet) : lineOf(packet));
+    output_.write(format_ == OutputFormat::JSON ? jsonOf(packet) : lineOf(packet, diagnostics_));
   }
 
  private:
   OutputFormat format_;
   Output& output_;
+  Diagnostics& diagnostics_;
   std::shared_ptr<PacketReportSink> sink_;
   WithReportSink installed_;
 };

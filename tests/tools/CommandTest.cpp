@@ -95,7 +95,8 @@ TEST(CommandTest, DecodesEachPacketIntoALine) {
             "8\t351\tTourBreakEnd\t0\t0\t[TourBreakEnd]\n");
   const std::regex reports(
       "herald: packet 2: report: .*Unknown casino message \\(600\\)\n"
-      "herald: packet 4: report: .*Unknown error when reading message .*\n");
+      "herald: packet 4: report: .*Unknown error when reading message .*\n"
+      "herald: packet 4: the read failed at byte 0 of 2: The stream ends: .*\n");
   EXPECT_TRUE(std::regex_match(outcome.err, reports)) << outcome.err;
   EXPECT_EQ(run("decode -", capture(MIXED)).out, outcome.out);
 }
@@ -145,6 +146,7 @@ TEST(CommandTest, TellsWhatIsWrongWithACapture) {
       {sound + number32(1), "packet 2: truncated dump file; .*", 1},
       {sound + sound.substr(24, 20), "packet 2: truncated dump file; .*", 1},
       {sound + record("\0\0"s, 9) + sound.substr(24), "packet 2: cut short: 2 of 9 bytes were captured", 2},
+      {sound + record("\0\0"s, 1) + sound.substr(24), "packet 2: longer than it was: 2 of 1 bytes were captured", 2},
       {behind(""), "packet 2: the payload is empty", 2},
       {behind("\x07\0\x0C"s), "packet 2: the direction byte is 7, not 0 or 1", 2},
       {behind("\0\x0C"s), "packet 2: too short for a message id: 1 byte", 2},
