@@ -18,8 +18,8 @@ class HERALD_API ClientMessage : public StreamReadableObject {
   virtual void handle(AbstractClientMessageHandler& handler) const = 0;
   /// One line of text for traces.
   virtual std::wstring toDebugString() const = 0;
-  /// Tells the sink every field of the body, in wire order.
-  virtual void describe(FieldSink& sink) const = 0;
+  /// Tells the sink every field of the body, in wire order. One that does not say what its fields are tells nothing.
+  virtual void describe(FieldSink&) const {}
 
   /// A tag for the component that receives the message, -1 at first; it never travels.
   void setNodeId(int nodeId) { nodeId_ = nodeId; }

@@ -28,9 +28,16 @@ DecodedMessage reportUnknownId(int id) {
   return {.outcome = DecodeOutcome::UNKNOWN_ID, .reason = text};
 }
 
+// A few bytes can begin a message whose debug text is long: a report says no more of it than its reader needs.
+std::wstring abbreviated(const std::wstring& text) {
+  constexpr std::size_t MAX_LENGTH = 300;
+  if (text.size() <= MAX_LENGTH) return text;
+  return text.substr(0, MAX_LENGTH) + format(L"... (%d more characters)", text.size() - MAX_LENGTH);
+}
+
 DecodedMessage reportFailedRead(const ClientMessage& message) {
   DecodedMessage result{.outcome = DecodeOutcome::READ_THREW, .reason = describeCurrentException()};
-  const std::wstring text = message.toDebugString();
+  const std::wstring text = abbreviated(message.toDebugString());
   MessageException(FILE_NAME, __LINE__, text, L"Unknown error when reading message " + text).report();
   return result;
 }

@@ -33,11 +33,13 @@ class HERALD_API ClientMessageFactory {
  public:
   /// Makes the message of the id and lets it read its body, at whose first byte the stream stands. The caller owns the
   /// result. Null for an id that creates nothing, and, after a report, for an unknown id and for a body whose read
-  /// threw. Unread bytes stay in the stream.
-  static ClientMessage* byteArrayToMessage(int id, ByteStream& in);
+  /// threw. Unread bytes stay in the stream. What a report says of a message is cut to some hundred characters. Memory
+  /// that runs out while the body is read is a read that threw; while the message is made or a failure is reported,
+  /// `std::bad_alloc` comes out of this operation, and nothing is left behind.
+  [[nodiscard]] static ClientMessage* byteArrayToMessage(int id, ByteStream& in);
 
   /// The same, and tells what became of the body.
-  static DecodedMessage decode(int id, ByteStream& in);
+  [[nodiscard]] static DecodedMessage decode(int id, ByteStream& in);
 };
 
 }  // namespace Tessel

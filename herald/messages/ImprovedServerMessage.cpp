@@ -4,6 +4,9 @@
 
 namespace Tessel {
 
+UnwritableBody::UnwritableBody()
+    : KeystoneException(L"messages/ImprovedServerMessage", __LINE__, L"The body cannot be written.") {}
+
 ImprovedServerMessage::~ImprovedServerMessage() = default;
 
 bool ImprovedServerMessage::write(ByteStream& out) const {
@@ -20,8 +23,6 @@ bool ImprovedServerMessage::write(ByteStream& out) const {
   }
   return writeSize(out) && frame.complete();
 }
-
-void ImprovedServerMessage::describe(FieldSink&) const {}
 
 void ImprovedServerMessage::writePacketDescriptor(ByteStream& out) const { out << getPacketDescriptor(); }
 

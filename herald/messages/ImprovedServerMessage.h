@@ -10,12 +10,11 @@ class HERALD_API ImprovedServerMessage : public ServerMessage {
   ~ImprovedServerMessage() override;
   bool write(ByteStream& out) const final;
   std::wstring toDebugString() const override = 0;
-  /// Appends the body. A `KeystoneException` that it throws ends the frame: it is reported and `write` answers false.
+  /// Appends the body; throws `KeystoneException` when it cannot be written. That ends the frame: it is reported, and
+  /// `write` answers false.
   virtual void writeBody(ByteStream& out) const = 0;
   /// The message id.
   virtual short getPacketDescriptor() const = 0;
-  /// The requests that describe themselves override this; a request without fields need not.
-  void describe(FieldSink& sink) const override;
 
  private:
   void writePacketDescriptor(ByteStream& out) const;

@@ -1,5 +1,6 @@
 #pragma once
 #include <herald/platform/keystone/ByteStream.h>
+#include <herald/platform/keystone/Exceptions.h>
 #include <herald/platform/keystone/Export.h>
 
 #include <cstddef>
@@ -12,8 +13,11 @@ inline constexpr std::size_t MAX_BODY_SIZE = 32767;
 /// Reports a body that is too long for its frame.
 void reportBodyTooLong(std::size_t size);
 
-/// Thrown by a body that cannot be written and has reported why.
-struct UnwritableBody {};
+/// Thrown by a body that cannot be written and has reported why, so that it is not reported again.
+class UnwritableBody : public KeystoneException {
+ public:
+  UnwritableBody();
+};
 
 /// Takes a frame back off the stream unless it was completed.
 class FrameGuard {

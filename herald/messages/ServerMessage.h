@@ -16,8 +16,8 @@ class HERALD_API ServerMessage : public StreamWritableObject {
   bool write(ByteStream& out) const override = 0;
   /// One line of text for traces.
   virtual std::wstring toDebugString() const = 0;
-  /// Tells the sink every field of the body, in wire order.
-  virtual void describe(FieldSink& sink) const = 0;
+  /// Tells the sink every field of the body, in wire order. One that does not say what its fields are tells nothing.
+  virtual void describe(FieldSink&) const {}
 
  protected:
   ServerMessage() = default;

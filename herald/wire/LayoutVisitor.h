@@ -51,6 +51,10 @@ class LayoutVisitor {
     counted<Count>(name, list);
   }
   template <WireNumber Count, class List>
+  void infoArrayKeeping(std::string_view name, Count count, const List& list) {
+    countedKeeping<Count>(name, count, list);
+  }
+  template <WireNumber Count, class List>
   void countedKeeping(std::string_view name, Count count, const List& list) {
     self().template list<Count>(name, count, list);
   }

@@ -85,13 +85,20 @@ class WireReader {
   /// A count, then that many records, all of which must read: one that does not throws "Failed to read info object.". A
   /// negative count means no records.
   template <WireNumber Count, class List>
-  void infoArray(const char*, List& list) {
+  void infoArray(const char* name, List& list) {
+    Count count = 0;
+    infoArrayKeeping<Count>(name, count, list);
+  }
+
+  /// The same, and the count is kept as it came.
+  template <WireNumber Count, class List>
+  void infoArrayKeeping(const char*, Count& count, List& list) {
     if (!succeeded_) return;
-    resize(list, take<Count>());
-    for (auto& record : list) {
+    count = take<Count>();
+    readEach(list, count, [this](auto& record) {
       read(record);
       if (!succeeded_) throwInfoObjectFailed();
-    }
+    });
   }
 
   /// Items without a count of their own: an earlier field says how many. None when that is negative.
@@ -136,33 +143,46 @@ class WireReader {
       succeeded_ = field.T::read(in_);
   }
 
-  // What a count claims is held against the bytes that are there before memory is taken for it: every 32-bit count, and
-  // the others where the list would be large.
-  template <class List, WireNumber Count>
-  void resize(List& list, Count count) {
-    using Item = typename List::value_type;
-    constexpr std::size_t MODEST_SIZE = 65536;
-    if (count < 0) count = 0;
-    const auto size = static_cast<std::size_t>(count);
-    if ((sizeof(Count) > 2 || size * sizeof(Item) > MODEST_SIZE) && size > in_.unreadCount() / minimumWireSize<Item>())
-      throwCountPastEnd(count, in_.unreadCount());
-    list.clear();
-    if constexpr (requires { list.setSize(0); })
-      list.setSize(static_cast<int>(count));
-    else
-      list.resize(size);
-  }
-
   template <class List, WireNumber Count>
   void readItems(List& list, Count count) {
-    resize(list, count);
-    for (auto&& item : list) {
+    readEach(list, count, [this](auto&& item) {
       if constexpr (std::same_as<typename List::value_type, bool>)
         item = take<bool>();
       else
         read(item);
       succeeded_ = true;
+    });
+  }
+
+  // What a count claims is held against the bytes that are there before memory is taken for it. What cannot fit throws
+  // at once when it would be large; otherwise the list grows with its items, so that the first that is not there ends
+  // it (texts that are not there are empty).
+  template <class List, WireNumber Count, class ReadItem>
+  void readEach(List& list, Count count, ReadItem readItem) {
+    using Item = typename List::value_type;
+    constexpr std::size_t MODEST_SIZE = 65536;
+    list.clear();
+    if (count <= 0) return;
+    const auto size = static_cast<std::size_t>(count);
+    if (size <= in_.unreadCount() / minimumWireSize<Item>()) {
+      resize(list, size);
+      for (auto&& item : list) readItem(item);
+    } else if (sizeof(Count) > 2 || size * sizeof(Item) > MODEST_SIZE) {
+      throwCountPastEnd(count, in_.unreadCount());
+    } else {
+      while (static_cast<std::size_t>(list.size()) < size) {
+        resize(list, static_cast<std::size_t>(list.size()) + 1);
+        readItem(*(list.end() - 1));
+      }
     }
+  }
+
+  template <class List>
+  static void resize(List& list, std::size_t size) {
+    if constexpr (requires { list.setSize(0); })
+      list.setSize(static_cast<int>(size));
+    else
+      list.resize(size);
   }
 
   ByteStream& in_;

@@ -45,6 +45,19 @@ TEST(InspectTest, JsonAndListingTellOfTheSameFields) {
   }
 }
 
+TEST(InspectTest, TellsNothingOfARecordThatDescribesNothing) {
+  class OfAUser : public ReadableObjectInfo, public WritableObjectInfo {
+   public:
+    bool read(ByteStream&) override { return true; }
+    bool write(ByteStream&) const override { return true; }
+    ReadableObjectInfo* clone() const override { return new OfAUser(*this); }
+    std::wstring toDebugString() const override { return {}; }
+    int size() const override { return 0; }
+  };
+  const OfAUser record;
+  EXPECT_EQ(nlohmann::json::parse(toJson(static_cast<const ReadableObjectInfo&>(record))).size(), 1u) << "its class";
+}
+
 TEST(InspectTest, PrintsAMessageAsJsonInWireOrder) {
   EXPECT_EQ(
       toJson(*decode(17, "01 00 00000007 03 7FFFFFFFFFFFFFFF 03 00 05 02 33 FF").message),

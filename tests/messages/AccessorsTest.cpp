@@ -388,7 +388,7 @@ TEST(TableInformation, DerivesItsLimitType) {
 
 TEST(TableInformation, IsMadeOfItsValues) {
   using Round = TableInformation::RoundBetInfo;
-  const auto money = [](int amount) { return Money(amount, 83); };
+  const auto money = [](int amount) { return Money(amount, 1000 + amount); };
   const TableInformation table(
       TsString(L"Bord"), TsString(L"text"), GameTypeFactory::createGameType(GameTypes::AllowedGameType::OMAHA),
       LimitTypeFactory::createLimitType(LimitTypes::AllowedLimitType::POT_LIMIT), 83, money(-84), money(90), money(-91),
@@ -399,7 +399,7 @@ TEST(TableInformation, IsMadeOfItsValues) {
   EXPECT_EQ(told(table.getMoney(1), table.getMoney(2), table.getMoney(3), table.getMoney(4), table.getMoney(5),
                  table.getMoney(6), table.getAmounts().at(1), table.getRounds().at(1).getAmount1(),
                  table.getRounds().at(0).getAmount2()),
-            "-84/83 -88/83 90/83 -91/83 92/83 -93/83 -87/83 96/83 -95/83");
+            "-84/916 -88/912 90/1090 -91/909 92/1092 -93/907 -87/913 96/1096 -95/905");
   EXPECT_EQ(told(table.getValue1(), table.getValue2(), table.getFlagA(), table.getFlagB(),
                  table.getGameType()->getValue(), table.getLimitType()->getValue()),
             "85 89 0 1 1 1");
@@ -446,7 +446,7 @@ TEST(IndexedAccessors, RefuseWhatLiesOutside) {
       {L"GameIdInfo", 2, [&](int i) { games.getId(i); }},
       {L"TreeNodeInfo", 2, [&](int i) { node.getSubNode(i); }},
       {L"InfoList", 1, [&](int i) { list[i]; }},
-      {L"InfoList", 0, [&](int i) { none[i]; }},
+      {L"InfoList", -2, [&](int i) { none[i]; }},
       {L"InfoVector", 2, [&](int i) { vector[i]; }},
       {L"TesselIntBitMask", 32, [&](int i) { mask.setBit(i); }},
       {L"TesselIntBitMask", 32, [&](int i) { EXPECT_TRUE(mask.getBit(i)); }},

@@ -1,8 +1,11 @@
 #include <gtest/gtest.h>
 #include <herald/messages/ClientMessageFactory.h>
 #include <herald/messages/ClientMessageTable.h>
+#include <herald/messages/info_objects/GameInfoList.h>
 #include <herald/platform/keystone/ByteStream.h>
 #include <herald/platform/keystone/Exceptions.h>
+#include <herald/platform/keystone/UTFEncoder.h>
+#include <tests/support/AllocationCount.h>
 #include <tests/support/Notation.h>
 #include <tests/support/RecordingSink.h>
 
@@ -90,6 +93,32 @@ TEST(ClientMessageFactory, ReportsAReadThatThrows) {
   expectReport(Outcome(17, "80 00", DecodeOutcome::READ_THREW, 1), L"[ClientWin]", detail);
   expectReport(Outcome(44, "00000007 03 0000", DecodeOutcome::READ_THREW, 2),
                L"[ClientVoteCast: VoteCastInfo: [VoteCastInfo: PlayerId: 7, Status: 3, NumberOfVotes: -1]]", detail);
+}
+
+// A count of 400 games with nothing behind it.
+TEST(ClientMessageFactory, BoundsWhatAFewBytesCost) {
+  GameInfoList list;
+  ByteStream count(toBytes("0190"));
+  const std::size_t before = allocatedBytes();
+  EXPECT_THROW(list.read(count), KeystoneException);
+  EXPECT_LT(allocatedBytes() - before, 4000u);
+
+  const Outcome games(-9, "0000 0190", DecodeOutcome::READ_THREW, 0);
+  ASSERT_EQ(games.reports.size(), 1u);
+  EXPECT_LT(games.reports[0].getDetail().size(), 500u);
+
+  // Three names and the beginning of a fourth, longer together than what a report repeats.
+  std::string games4 = "00000004";
+  const std::string name(200, 'n');
+  for (int i = 0; i < 3; ++i)
+    games4 += "00000001 00C8 \"" + name
+              + "\" 0001 0002 0003 0004 00000005 00000006 01 02 0000000000000001 0000000000000002 51";
+  const Outcome longOne(-9, games4, DecodeOutcome::READ_THREW, 0);
+  ASSERT_EQ(longOne.reports.size(), 1u) << longOne.reports[0].what();
+  const std::wstring& text = longOne.reports[0].getText();
+  EXPECT_TRUE(text.starts_with(L"[GameList: ")) << UTFEncoder::toUTF8(text);
+  EXPECT_TRUE(text.ends_with(L" more characters)")) << UTFEncoder::toUTF8(text);
+  EXPECT_LT(text.size(), 400u);
 }
 
 TEST(ClientMessageFactory, ReturnsAMessageWhoseReadAnsweredFalse) {

@@ -96,6 +96,9 @@ TEST(RequestFrame, IsWrittenWholeOrNotAtAll) {
     EXPECT_EQ(out.unreadCount(), 3u);
     EXPECT_EQ(recording.sink->reports.size(), 1u);
   }
+  const WithRecordingSink quiet;
+  ByteStream body;
+  EXPECT_THROW(ServerGlobalChatMsg(L"nick", lone).writeBody(body), KeystoneException);
   ByteStream out(toBytes("01"));
   EXPECT_THROW(TestRequest([](ByteStream&) { throw std::bad_alloc(); }).write(out), std::bad_alloc);
   EXPECT_EQ(toHex(out.bytes()), "01");

@@ -64,6 +64,19 @@ TEST(TourLevelInfo, LastsATimeOrANumberOfHandsOrForeverAndUsesAmountsAboveZero) 
   }
 }
 
+TEST(WinClientTournamentInfo, TakesItsMoneyOnceItIsReadWhole) {
+  const auto& bytes = goldenCase("TournamentDataWinClientMsg").bytes;
+  ByteStream cutShort{std::span(bytes).first(bytes.size() - 1)};
+  WinClientTournamentInfo info;
+  EXPECT_THROW(info.read(cutShort), KeystoneException);
+  for (const Money& money : {info.getBuyIn(), info.getFee(), info.getPrizePool(), info.getStartingChips()})
+    EXPECT_EQ(money, Money());
+  ByteStream whole(bytes);
+  EXPECT_TRUE(info.read(whole));
+  for (const Money& money : {info.getBuyIn(), info.getFee(), info.getPrizePool(), info.getStartingChips()})
+    EXPECT_NE(money, Money());
+}
+
 TEST(BreakMessages, LogThemselvesOnceTheyAreReadWhole) {
   for (const std::string name : {"TourBreakInfo", "TourBreakEnd", "TourBreakNotification"}) {
     SCOPED_TRACE(name);
@@ -73,7 +86,7 @@ TEST(BreakMessages, LogThemselvesOnceTheyAreReadWhole) {
     for (std::size_t size = 0; size <= golden.bytes.size(); ++size) {
       EXPECT_TRUE(lines.empty());
       ByteStream in(std::span(golden.bytes).first(size));
-      ClientMessageFactory::decode(*golden.id, in);
+      static_cast<void>(ClientMessageFactory::decode(*golden.id, in));
     }
     ASSERT_EQ(lines.size(), 1u);
     EXPECT_EQ(UTFEncoder::toUTF8(lines[0].text), golden.text);

@@ -1,9 +1,12 @@
 #pragma once
+#include <cstddef>
 
 namespace Tessel {
 
 /// How often `operator new` has been called in this program so far, the library's calls included. On Windows the
 /// library has an `operator new` of its own, which this does not see.
 int allocationCount();
+/// How many bytes they asked for, freed or not.
+std::size_t allocatedBytes();
 
 }  // namespace Tessel

@@ -18,7 +18,7 @@ class HERALD_API InfoList : public ReadableRecord<InfoList<T>> {
 
   /// An index outside 0 to `getNrInfos()` - 1 throws `OutOfBoundsException`.
   const T& operator[](int i) const {
-    checkRecordIndex(L"messages/info_objects/InfoList", i, static_cast<int>(elements_.size()));
+    checkRecordIndex(L"messages/info_objects/InfoList", i, elements_.size(), count_);
     return elements_[static_cast<std::size_t>(i)];
   }
 

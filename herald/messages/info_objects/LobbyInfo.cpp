@@ -11,8 +11,7 @@ void LobbyInfo::requireMore(bool hasMore) {
 
 std::wstring LobbyInfo::toDebugString() const {
   return format(L"[LobbyInfo: id=%d, nr players=%d, players=%s, nr players waiting=%d, players waiting=%s, name=%s]",
-                id_, getNrPlayers(), joinDebugTexts(players_), getNrPlayersWaiting(), joinDebugTexts(playersWaiting_),
-                name_);
+                id_, nrPlayers_, joinDebugTexts(players_), nrPlayersWaiting_, joinDebugTexts(playersWaiting_), name_);
 }
 
 }  // namespace Tessel

@@ -12,10 +12,11 @@ namespace Tessel {
 class HERALD_API LobbyInfo : public ReadableRecord<LobbyInfo> {
  public:
   int getId() const { return id_; }
-  int getNrPlayers() const { return static_cast<int>(players_.size()); }
+  /// The count as it came, here and below; a negative one has no players.
+  int getNrPlayers() const { return nrPlayers_; }
   /// The first of `getNrPlayers()` players at the table. They live in this record.
   const PlayerInGameInfo* getPlayers() const { return players_.data(); }
-  int getNrPlayersWaiting() const { return static_cast<int>(playersWaiting_.size()); }
+  int getNrPlayersWaiting() const { return nrPlayersWaiting_; }
   /// The first of `getNrPlayersWaiting()` players on the waiting list. They live in this record.
   const PlayerInfo* getPlayersWaiting() const { return playersWaiting_.data(); }
   std::wstring getName() const { return name_.getString(); }
@@ -26,9 +27,9 @@ class HERALD_API LobbyInfo : public ReadableRecord<LobbyInfo> {
   static void wire(Self& self, Fields& fields) {
     fields("id", self.id_);
     requireMore(fields.hasMore());
-    fields.template infoArray<std::int8_t>("players", self.players_);
+    fields.template infoArrayKeeping<std::int8_t>("players", self.nrPlayers_, self.players_);
     requireMore(fields.hasMore());
-    fields.template infoArray<std::int8_t>("playersWaiting", self.playersWaiting_);
+    fields.template infoArrayKeeping<std::int8_t>("playersWaiting", self.nrPlayersWaiting_, self.playersWaiting_);
     requireMore(fields.hasMore());
     fields("name", self.name_);
   }
@@ -37,7 +38,9 @@ class HERALD_API LobbyInfo : public ReadableRecord<LobbyInfo> {
   static void requireMore(bool hasMore);
 
   std::int32_t id_ = -1;
+  std::int8_t nrPlayers_ = 0;
   std::vector<PlayerInGameInfo> players_;
+  std::int8_t nrPlayersWaiting_ = 0;
   std::vector<PlayerInfo> playersWaiting_;
   TsString name_;
 };

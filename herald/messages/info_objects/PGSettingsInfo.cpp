@@ -2,6 +2,8 @@
 #include <herald/messages/info_objects/RecordOperations.h>
 #include <herald/platform/keystone/Exceptions.h>
 
+#include <utility>
+
 namespace Tessel {
 
 const GameType* PGSettingsInfo::getGameType() const {
@@ -12,23 +14,25 @@ const LimitType* PGSettingsInfo::getLimitType() const {
   return LimitTypeFactory::createLimitType(LimitTypes::AllowedLimitType{limitType_});
 }
 
-MoneyLimit PGSettingsInfo::getLimits() const {
+bool PGSettingsInfo::buildLimits() {
   Currency currency;
   MoneyModel::getInstance().getCurrency(monetaryUnitId_, currency);
-  return {lowerLimit_.getAmount(), upperLimit_.getAmount(), monetaryUnitId_, currency};
+  limits_ = {lowerLimit_.getAmount(), upperLimit_.getAmount(), monetaryUnitId_, std::move(currency)};
+  return true;
 }
 
 bool PGSettingsInfo::isRealMoneyGame() const {
+  const int unit = limits_.getMonetaryUnitId();
   MonetaryType type;
-  if (!MoneyModel::getInstance().getMonetaryType(monetaryUnitId_, type))
+  if (!MoneyModel::getInstance().getMonetaryType(unit, type))
     throw KeystoneException(L"messages/info_objects/PGSettingsInfo", __LINE__,
-                            format(L"Cannot find Monetary Type (id=%d)", monetaryUnitId_));
+                            format(L"Cannot find Monetary Type (id=%d)", unit));
   return type.isReal();
 }
 
 std::wstring PGSettingsInfo::toDebugString() const {
   return format(L"[PGSettingsInfo: settingId=%d, gameType=%d, description=%s, limit=%s]", settingId_, gameType_,
-                description_, getLimits().toString());
+                description_, limits_.toString());
 }
 
 }  // namespace Tessel

@@ -18,8 +18,9 @@ class HERALD_API PGSettingsInfo : public ReadableRecord<PGSettingsInfo> {
   /// Never null; lives as long as the process.
   const LimitType* getLimitType() const;
   std::wstring getDescription() const { return description_.getString(); }
-  /// The limits in the currency that `MoneyModel` now knows for their monetary unit; in a default one otherwise.
-  MoneyLimit getLimits() const;
+  /// The limits in the currency that `MoneyModel` knew for their monetary unit when the record was read; in a default
+  /// one otherwise.
+  const MoneyLimit& getLimits() const { return limits_; }
   /// Throws `KeystoneException` when `MoneyModel` knows no type for the monetary unit of the limits.
   bool isRealMoneyGame() const;
 
@@ -34,9 +35,12 @@ class HERALD_API PGSettingsInfo : public ReadableRecord<PGSettingsInfo> {
     fields("monetaryUnitId", self.monetaryUnitId_);
     fields("lowerLimit", self.lowerLimit_);
     fields("upperLimit", self.upperLimit_);
+    fields.onRead(self, &PGSettingsInfo::buildLimits);
   }
 
  private:
+  bool buildLimits();
+
   std::int32_t settingId_ = -1;
   std::int8_t gameType_ = -1;
   std::int8_t limitType_ = -1;
@@ -44,6 +48,7 @@ class HERALD_API PGSettingsInfo : public ReadableRecord<PGSettingsInfo> {
   std::int16_t monetaryUnitId_ = -1;
   AmountInfo lowerLimit_;
   AmountInfo upperLimit_;
+  MoneyLimit limits_;
 };
 
 }  // namespace Tessel

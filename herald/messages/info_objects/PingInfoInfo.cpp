@@ -3,6 +3,8 @@
 
 namespace Tessel {
 
+bool PingInfoInfo::write(ByteStream&) const { return false; }
+
 std::wstring PingInfoInfo::toDebugString() const {
   return format(L"[PingInfoInfo: nick=%s, ping=%d, money at table=%s]", nick_, ping_, moneyAtTable_);
 }

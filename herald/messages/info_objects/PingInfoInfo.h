@@ -5,7 +5,7 @@
 namespace Tessel {
 
 /// How fast the connection of a player at a table is.
-class HERALD_API PingInfoInfo : public ReadableRecord<PingInfoInfo> {
+class HERALD_API PingInfoInfo : public ReadableRecord<PingInfoInfo, ReadableWritableInfo> {
  public:
   std::wstring getNick() const { return nick_.getString(); }
   /// In milliseconds.
@@ -17,7 +17,7 @@ class HERALD_API PingInfoInfo : public ReadableRecord<PingInfoInfo> {
   void setMoneyAtTable(const Money& money) { moneyAtTable_ = MoneyInfo(money); }
 
   /// The record is never sent: writes nothing and answers false.
-  bool write(ByteStream&) const { return false; }
+  bool write(ByteStream& out) const override;
 
   std::wstring toDebugString() const override;
 

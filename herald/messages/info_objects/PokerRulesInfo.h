@@ -14,7 +14,8 @@ class HERALD_API PokerRulesInfo : public ReadableRecord<PokerRulesInfo> {
 
   Money getMaxRake() const { return inUnit(maxRake_); }
   Money getBigBlind() const { return inUnit(bigBlind_); }
-  int getNrChipStackValues() const { return static_cast<int>(chipStackValues_.size()); }
+  /// The count as it came; a negative one has no values.
+  int getNrChipStackValues() const { return nrChipStackValues_; }
   /// An index outside 0 to `getNrChipStackValues()` - 1 throws `OutOfBoundsException`.
   Money getChipStackValue(int i) const;
   Money getMinChipValue() const { return inUnit(minChipValue_); }
@@ -34,7 +35,7 @@ class HERALD_API PokerRulesInfo : public ReadableRecord<PokerRulesInfo> {
     fields("monetaryUnitId", self.monetaryUnitId_);
     fields("maxRake", self.maxRake_);
     fields("bigBlind", self.bigBlind_);
-    fields.template countedOrNone<std::int32_t>("chipStackValues", self.chipStackValues_);
+    fields.template countedKeeping<std::int32_t>("chipStackValues", self.nrChipStackValues_, self.chipStackValues_);
     fields("minChipValue", self.minChipValue_);
     fields("ante", self.ante_);
     fields("smallBlind", self.smallBlind_);
@@ -51,6 +52,7 @@ class HERALD_API PokerRulesInfo : public ReadableRecord<PokerRulesInfo> {
   std::int16_t monetaryUnitId_ = -1;
   AmountInfo maxRake_;
   AmountInfo bigBlind_;
+  std::int32_t nrChipStackValues_ = 0;
   std::vector<AmountInfo> chipStackValues_;
   AmountInfo minChipValue_;
   AmountInfo ante_;

@@ -16,8 +16,8 @@ class HERALD_API ReadableObjectInfo : public StreamReadableObject {
   virtual ReadableObjectInfo* clone() const = 0;
   /// One line of text for traces.
   virtual std::wstring toDebugString() const = 0;
-  /// Tells the sink every field, in wire order.
-  virtual void describe(FieldSink& sink) const = 0;
+  /// Tells the sink every field, in wire order. One that does not say what its fields are tells nothing.
+  virtual void describe(FieldSink&) const {}
 
   std::unique_ptr<ReadableObjectInfo> cloneOwned() const { return std::unique_ptr<ReadableObjectInfo>(clone()); }
 

@@ -5,8 +5,7 @@
 namespace Tessel {
 
 TableInformation::RoundBetInfo::RoundBetInfo(const Money& amount1, const Money& amount2, bool flagA, bool flagB)
-    : amount1_(amount1.getAmount()), amount2_(amount2.getAmount()), flagA_(flagA), flagB_(flagB),
-      monetaryUnitId_(amount1.getMonetaryUnitId()) {}
+    : amount1_(amount1), amount2_(amount2), flagA_(flagA), flagB_(flagB) {}
 
 TableInformation::TableInformation(const TsString& tableName, const TsString& description, const GameType* gameType,
                                    const LimitType* limitType, int monetaryUnitId, const Money& money1,
@@ -15,13 +14,11 @@ TableInformation::TableInformation(const TsString& tableName, const TsString& de
                                    const TsArray<RoundBetInfo>& rounds, int value1, int nrAmounts, int nrRounds,
                                    int value2, bool flagA, bool flagB)
     : tableName_(tableName), gameType_(static_cast<std::int8_t>(gameType->getValue())),
-      monetaryUnitId_(static_cast<std::int16_t>(monetaryUnitId)), money_{money1.getAmount(), money2.getAmount(),
-                                                                         money3.getAmount(), money4.getAmount(),
-                                                                         money5.getAmount(), money6.getAmount()},
-      flagA_(flagA), flagB_(flagB), value1_(value1), nrAmounts_(nrAmounts), value2_(value2), description_(description),
-      nrRounds_(nrRounds), rounds_(rounds.begin(), rounds.end()), limitType_(limitType->getValue()) {
-  for (const Money& amount : amounts) amounts_.emplace_back(amount.getAmount());
-}
+      monetaryUnitId_(static_cast<std::int16_t>(monetaryUnitId)), money_{money1, money2, money3,
+                                                                         money4, money5, money6},
+      flagA_(flagA), flagB_(flagB), value1_(value1), nrAmounts_(nrAmounts), amounts_(amounts.begin(), amounts.end()),
+      value2_(value2), description_(description), nrRounds_(nrRounds), rounds_(rounds.begin(), rounds.end()),
+      limitType_(limitType->getValue()) {}
 
 const GameType* TableInformation::getGameType() const {
   return GameTypeFactory::createGameType(static_cast<GameTypes::AllowedGameType>(gameType_));
@@ -33,12 +30,12 @@ Money TableInformation::getMoney(int number) const {
   const int highest = static_cast<int>(money_.size());
   if (number < 1 || number > highest)
     throw OutOfBoundsException(L"messages/info_objects/TableInformation", __LINE__, L"number", 1, highest, number);
-  return {money_[static_cast<std::size_t>(number - 1)].getAmount(), monetaryUnitId_};
+  return money_[static_cast<std::size_t>(number - 1)].getMoney();
 }
 
 TsArray<Money> TableInformation::getAmounts() const {
   TsArray<Money> amounts;
-  for (const AmountInfo& amount : amounts_) amounts.add({amount.getAmount(), monetaryUnitId_});
+  for (const TableAmount& amount : amounts_) amounts.add(amount.getMoney());
   return amounts;
 }
 
@@ -47,7 +44,12 @@ bool TableInformation::write(ByteStream&) const { return false; }
 std::wstring TableInformation::toDebugString() const { return {}; }
 
 bool TableInformation::finishRead() {
-  for (RoundBetInfo& round : rounds_) round.monetaryUnitId_ = monetaryUnitId_;
+  for (TableAmount& amount : money_) amount.setMonetaryUnitId(monetaryUnitId_);
+  for (TableAmount& amount : amounts_) amount.setMonetaryUnitId(monetaryUnitId_);
+  for (RoundBetInfo& round : rounds_) {
+    round.amount1_.setMonetaryUnitId(monetaryUnitId_);
+    round.amount2_.setMonetaryUnitId(monetaryUnitId_);
+  }
   limitType_ = deriveLimitType();
   return true;
 }

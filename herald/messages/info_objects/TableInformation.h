@@ -1,5 +1,4 @@
 #pragma once
-#include <herald/messages/info_objects/AmountInfo.h>
 #include <herald/messages/info_objects/TsString.h>
 #include <herald/platform/keystone/Money.h>
 #include <herald/platform/keystone/TsArray.h>
@@ -15,6 +14,27 @@ namespace Tessel {
 /// What the table information window shows. The numbered amounts, flags and values are the server's; they stand in the
 /// order in which they travel. It is never sent: `write` writes nothing and answers false.
 class HERALD_API TableInformation : public ReadableRecord<TableInformation, ReadableWritableInfo> {
+  // Only the amount travels; `read` gives all of them the table's monetary unit.
+  class TableAmount {
+   public:
+    static constexpr bool IS_TRANSPARENT = true;
+
+    TableAmount() = default;
+    TableAmount(const Money& money) : amount_(money.getAmount()), monetaryUnitId_(money.getMonetaryUnitId()) {}
+
+    Money getMoney() const { return {amount_, monetaryUnitId_}; }
+    void setMonetaryUnitId(int monetaryUnitId) { monetaryUnitId_ = monetaryUnitId; }
+
+    template <class Self, class Fields>
+    static void wire(Self& self, Fields& fields) {
+      fields("", self.amount_);
+    }
+
+   private:
+    std::int64_t amount_ = 0;
+    int monetaryUnitId_ = -1;
+  };
+
  public:
   /// Two amounts and two flags of one betting round.
   class HERALD_API RoundBetInfo {
@@ -22,8 +42,8 @@ class HERALD_API TableInformation : public ReadableRecord<TableInformation, Read
     RoundBetInfo() = default;
     RoundBetInfo(const Money& amount1, const Money& amount2, bool flagA, bool flagB);
 
-    Money getAmount1() const { return {amount1_.getAmount(), monetaryUnitId_}; }
-    Money getAmount2() const { return {amount2_.getAmount(), monetaryUnitId_}; }
+    Money getAmount1() const { return amount1_.getMoney(); }
+    Money getAmount2() const { return amount2_.getMoney(); }
     bool getFlagA() const { return flagA_; }
     bool getFlagB() const { return flagB_; }
 
@@ -38,15 +58,15 @@ class HERALD_API TableInformation : public ReadableRecord<TableInformation, Read
    private:
     friend class TableInformation;
 
-    AmountInfo amount1_;
-    AmountInfo amount2_;
+    TableAmount amount1_;
+    TableAmount amount2_;
     bool flagA_ = false;
     bool flagB_ = false;
-    int monetaryUnitId_ = -1;
   };
 
   TableInformation() = default;
-  /// The limit type is kept as given; only `read` derives it. All amounts are in the table's monetary unit.
+  /// The limit type is kept as given; only `read` derives it. So is the monetary unit of each amount: only
+  /// `read` gives them all the table's.
   TableInformation(const TsString& tableName, const TsString& description, const GameType* gameType,
                    const LimitType* limitType, int monetaryUnitId, const Money& money1, const Money& money3,
                    const Money& money4, const Money& money5, const Money& money2, const Money& money6,
@@ -100,12 +120,12 @@ class HERALD_API TableInformation : public ReadableRecord<TableInformation, Read
   TsString tableName_;
   std::int8_t gameType_ = -1;
   std::int16_t monetaryUnitId_ = -1;
-  std::array<AmountInfo, 6> money_;
+  std::array<TableAmount, 6> money_;
   bool flagA_ = false;
   bool flagB_ = false;
   std::int32_t value1_ = -1;
   std::int32_t nrAmounts_ = 0;
-  std::vector<AmountInfo> amounts_;
+  std::vector<TableAmount> amounts_;
   std::int32_t value2_ = -1;
   TsString description_;
   std::int32_t nrRounds_ = 0;

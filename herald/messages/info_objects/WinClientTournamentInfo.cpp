@@ -12,7 +12,15 @@ const LimitType* WinClientTournamentInfo::getLimitType() const {
 }
 
 Money WinClientTournamentInfo::bigBlind(int i) const {
-  return {bigBlinds_.at(i).getAmount(), startingChips_.getMonetaryUnitId()};
+  return {bigBlinds_.at(i).getAmount(), travelled_.startingChips.getMonetaryUnitId()};
+}
+
+bool WinClientTournamentInfo::takeMoney() {
+  buyIn_ = travelled_.buyIn.getMoney();
+  fee_ = travelled_.fee.getMoney();
+  prizePool_ = travelled_.prizePool.getMoney();
+  startingChips_ = travelled_.startingChips.getMoney();
+  return true;
 }
 
 std::wstring WinClientTournamentInfo::toDebugString() const { return {}; }

@@ -9,17 +9,17 @@
 
 namespace Tessel {
 
-/// What the client shows of a tournament.
+/// What the client shows of a tournament. Its money changes only when a whole record has been read.
 class HERALD_API WinClientTournamentInfo : public ReadableRecord<WinClientTournamentInfo> {
  public:
   int getTournamentId() const { return tournamentId_; }
-  Money getBuyIn() const { return buyIn_.getMoney(); }
-  Money getFee() const { return fee_.getMoney(); }
+  Money getBuyIn() const { return buyIn_; }
+  Money getFee() const { return fee_; }
   int getNrOfEnrolled() const { return nrOfEnrolled_; }
-  Money getPrizePool() const { return prizePool_.getMoney(); }
+  Money getPrizePool() const { return prizePool_; }
   int getEntryLevel() const { return entryLevel_; }
   int getNrOfWinners() const { return nrOfWinners_; }
-  Money getStartingChips() const { return startingChips_.getMoney(); }
+  Money getStartingChips() const { return startingChips_; }
   /// Its values are the server's.
   char getTournamentType() const { return static_cast<char>(tournamentType_); }
   /// Never null.
@@ -42,13 +42,13 @@ class HERALD_API WinClientTournamentInfo : public ReadableRecord<WinClientTourna
   template <class Self, class Fields>
   static void wire(Self& self, Fields& fields) {
     fields("tournamentId", self.tournamentId_);
-    fields("buyIn", self.buyIn_);
-    fields("fee", self.fee_);
+    fields("buyIn", self.travelled_.buyIn);
+    fields("fee", self.travelled_.fee);
     fields("nrOfEnrolled", self.nrOfEnrolled_);
-    fields("prizePool", self.prizePool_);
+    fields("prizePool", self.travelled_.prizePool);
     fields("entryLevel", self.entryLevel_);
     fields("nrOfWinners", self.nrOfWinners_);
-    fields("startingChips", self.startingChips_);
+    fields("startingChips", self.travelled_.startingChips);
     fields("tournamentType", self.tournamentType_);
     fields("gameType", self.gameType_);
     fields("limitType", self.limitType_);
@@ -56,17 +56,29 @@ class HERALD_API WinClientTournamentInfo : public ReadableRecord<WinClientTourna
     fields("description", self.description_);
     fields("playerStatus", self.playerStatus_);
     fields.template countedOrNone<std::int32_t>("bigBlinds", self.bigBlinds_);
+    fields.onRead(self, &WinClientTournamentInfo::takeMoney);
   }
 
  private:
+  // The money as it travels.
+  struct TravelledMoney {
+    MoneyInfo buyIn{Money()};
+    MoneyInfo fee{Money()};
+    MoneyInfo prizePool{Money()};
+    MoneyInfo startingChips{Money()};
+  };
+
+  bool takeMoney();
+
+  TravelledMoney travelled_;
+  Money buyIn_;
+  Money fee_;
+  Money prizePool_;
+  Money startingChips_;
   std::int32_t tournamentId_ = -1;
-  MoneyInfo buyIn_{Money()};
-  MoneyInfo fee_{Money()};
   std::int32_t nrOfEnrolled_ = -1;
-  MoneyInfo prizePool_{Money()};
   std::int32_t entryLevel_ = -1;
   std::int32_t nrOfWinners_ = -1;
-  MoneyInfo startingChips_{Money()};
   std::int8_t tournamentType_ = -1;
   std::int8_t gameType_ = -1;
   std::int8_t limitType_ = -1;

@@ -14,8 +14,8 @@ class HERALD_API WritableObjectInfo : public StreamWritableObject {
   virtual std::wstring toDebugString() const = 0;
   /// The number of bytes that `write` appends.
   virtual int size() const = 0;
-  /// Tells the sink every field, in wire order.
-  virtual void describe(FieldSink& sink) const = 0;
+  /// Tells the sink every field, in wire order. One that does not say what its fields are tells nothing.
+  virtual void describe(FieldSink&) const {}
 
  protected:
   WritableObjectInfo() = default;
