@@ -4,6 +4,8 @@
 #include <herald/platform/keystone/Format.h>
 #include <herald/platform/keystone/UTFEncoder.h>
 
+#include <set>
+
 using namespace Tessel;
 
 namespace {
@@ -94,9 +96,16 @@ const std::unordered_map<std::type_index, std::vector<TournamentScreen::Part>>& 
 }
 
 void TournamentScreen::update(const NotificationUpdateObject& update) {
-  const auto parts = partsOfUpdates().find(typeid(update));
-  if (parts == partsOfUpdates().end()) return;
-  for (const Part part : parts->second) draw(part);
+  changes_.post(std::unique_ptr<NotificationUpdateObject>(update.clone()));
+}
+
+void TournamentScreen::drawChanges() {
+  std::set<Part> changed;
+  for (const auto& change : changes_.pickupAll()) {
+    const auto parts = partsOfUpdates().find(typeid(*change));
+    if (parts != partsOfUpdates().end()) changed.insert(parts->second.begin(), parts->second.end());
+  }
+  for (const Part part : changed) draw(part);
 }
 
 void TournamentScreen::draw(Part part) {

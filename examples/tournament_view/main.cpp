@@ -52,11 +52,12 @@ int main(int argc, char** argv) {
   SpecificTournamentModel model(TOURNAMENT_ID);
   TournamentFeed feed(model);
   {
-    const TournamentScreen screen(model, std::cout, isTerminal());
+    TournamentScreen screen(model, std::cout, isTerminal());
     for (const ServerPacket& packet : packets) {
       ByteStream body(packet.body);
       std::unique_ptr<ClientMessage> message = ClientMessageFactory::decode(packet.id, body).message;
       if (message) AbstractClientMessageHandler::handle(feed, std::move(message));
+      screen.drawChanges();
     }
   }
   std::cout << std::endl;
