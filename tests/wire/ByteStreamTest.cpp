@@ -4,6 +4,7 @@
 #include <tests/support/Notation.h>
 
 #include <cstdint>
+#include <functional>
 #include <limits>
 
 namespace Tessel {
@@ -86,6 +87,26 @@ TEST(ByteStream, TellsWhatIsHeldAndWhatIsUnread) {
   copy.clear();
   EXPECT_TRUE(copy.eos());
   EXPECT_EQ(copy.GetSize(), 0);
+}
+
+TEST(ByteStream, AViewReadsTheCallersBytesAndCopiesThemBeforeItWrites) {
+  const std::vector<std::uint8_t> bytes = toBytes("010203");
+  const auto expectBytes = [&](std::string_view notation, bool areTheCallers,
+                               const std::function<void(ByteStream&)>& change) {
+    ByteStream stream = ByteStream::view(bytes);
+    stream.skip(1);
+    change(stream);
+    EXPECT_EQ(toHex(stream.bytes()), notation);
+    EXPECT_EQ(stream.bytes().data() == bytes.data(), areTheCallers) << notation;
+    EXPECT_EQ(toHex(bytes), "010203");
+  };
+  expectBytes("010203", true, [](ByteStream& stream) { EXPECT_EQ(toHex(stream.unread()), "0203"); });
+  expectBytes("0102", true, [](ByteStream& stream) { stream.truncate(2); });
+  expectBytes("0104", false, [](ByteStream& stream) { stream.truncate(1), stream << std::int8_t{4}; });
+  expectBytes("01020304", false, [](ByteStream& stream) { stream << std::int8_t{4}; });
+  expectBytes("7F0203", false, [](ByteStream& stream) { stream.SetAt(0, '\x7F'); });
+  expectBytes("04", false, [](ByteStream& stream) { stream.clear(), stream << std::int8_t{4}; });
+  expectBytes("010203", false, [](ByteStream& stream) { stream = ByteStream(stream); });
 }
 
 TEST(ByteStream, OverwritesHeldBytesOnly) {

@@ -7,19 +7,40 @@
 namespace Tessel {
 
 namespace {
+
 constexpr const wchar_t* FILE_NAME = L"platform/keystone/ByteStream";
-}
+constexpr std::size_t SMALLEST_CAPACITY = 64;
+
+}  // namespace
+
+ByteStream::ByteStream(const ByteStream& other) : ByteStream(other.bytes()) { position_ = other.position_; }
 
 void ByteStream::SetAt(int index, char value) {
   if (index < 0 || index >= GetSize())
     throw OutOfBoundsException(FILE_NAME, __LINE__, L"index", 0, GetSize() - 1, index);
-  bytes_[static_cast<std::size_t>(index)] = static_cast<std::uint8_t>(value);
+  if (isView()) grow(0);
+  own_[static_cast<std::size_t>(index)] = static_cast<std::uint8_t>(value);
 }
 
 void ByteStream::truncate(std::size_t size) {
-  if (size >= bytes_.size()) return;
-  bytes_.resize(size);
+  if (size >= size_) return;
+  if (!isView()) room_ += size_ - size;
+  size_ = size;
   position_ = std::min(position_, size);
+}
+
+void ByteStream::clear() {
+  if (isView()) *this = ByteStream();
+  truncate(0);
+}
+
+void ByteStream::grow(std::size_t count) {
+  const std::size_t capacity = std::max({size_ + count, 2 * size_, SMALLEST_CAPACITY});
+  std::unique_ptr<std::uint8_t[]> bytes(new std::uint8_t[capacity]);  // not filled with zeros first
+  if (size_ > 0) std::memcpy(bytes.get(), begin_, size_);
+  own_ = std::move(bytes);
+  begin_ = own_.get();
+  room_ = capacity - size_;
 }
 
 void ByteStream::throwPastEnd(std::size_t count) const {

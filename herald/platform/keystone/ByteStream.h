@@ -6,11 +6,40 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <memory>
 #include <span>
 #include <utility>
-#include <vector>
 
 namespace Tessel {
+
+/// A number as it travels: high byte first.
+template <std::unsigned_integral T>
+class BigEndian {
+ public:
+  static T load(const std::uint8_t* from) {
+    T value;
+    std::memcpy(&value, from, sizeof(T));
+    return toOrFromBigEndian(value);
+  }
+  static void store(T value, std::uint8_t* to) {
+    value = toOrFromBigEndian(value);
+    std::memcpy(to, &value, sizeof(T));
+  }
+
+ private:
+  static T toOrFromBigEndian(T value) {
+    if constexpr (std::endian::native == std::endian::big)
+      return value;
+    else
+      return swapped(value, std::make_index_sequence<sizeof(T)>());
+  }
+
+  // Without a loop, so that compilers see the one instruction that does it.
+  template <std::size_t... BYTES>
+  static T swapped(T value, std::index_sequence<BYTES...>) {
+    return static_cast<T>((... | ((value >> 8 * BYTES & 0xFF) << 8 * (sizeof(T) - 1 - BYTES))));
+  }
+};
 
 /// A growable byte array with a read position: `<<` appends at its end, `>>` consumes from the read position. Numbers
 /// travel high byte first, in exactly their width; a bool is one byte, non-zero for true.
@@ -18,7 +47,32 @@ class HERALD_API ByteStream {
  public:
   ByteStream() = default;
   /// Copies the bytes; the read position stands at the first.
-  explicit ByteStream(std::span<const std::uint8_t> bytes) : bytes_(bytes.begin(), bytes.end()) {}
+  explicit ByteStream(std::span<const std::uint8_t> bytes) { append(bytes); }
+  ByteStream(const ByteStream& other);
+  ByteStream(ByteStream&& other) noexcept { swap(other); }
+  ByteStream& operator=(const ByteStream& other) { return *this = ByteStream(other); }
+  ByteStream& operator=(ByteStream&& other) noexcept {
+    ByteStream(std::move(other)).swap(*this);
+    return *this;
+  }
+  ~ByteStream() = default;
+
+  /// A stream over the caller's bytes, which it does not copy: they must stay where they are, unchanged, until the
+  /// stream is destroyed, cleared or written to. Writing into it copies them first, and so does copying the stream.
+  static ByteStream view(std::span<const std::uint8_t> bytes) {
+    ByteStream stream;
+    stream.begin_ = bytes.data();
+    stream.size_ = bytes.size();
+    return stream;
+  }
+
+  void swap(ByteStream& other) noexcept {
+    std::swap(own_, other.own_);
+    std::swap(begin_, other.begin_);
+    std::swap(size_, other.size_);
+    std::swap(position_, other.position_);
+    std::swap(room_, other.room_);
+  }
 
   ByteStream& operator<<(char value) { return put(static_cast<std::uint8_t>(value)); }
   ByteStream& operator<<(std::int8_t value) { return put(static_cast<std::uint8_t>(value)); }
@@ -39,19 +93,29 @@ class HERALD_API ByteStream {
   ByteStream& operator>>(std::int64_t& value) { return value = static_cast<std::int64_t>(get<std::uint64_t>()), *this; }
 
   /// The number of bytes held, read or not.
-  int GetSize() const { return static_cast<int>(bytes_.size()); }
+  int GetSize() const { return static_cast<int>(size_); }
   /// Overwrites the byte at an index from 0 to `GetSize()` - 1; another index throws `OutOfBoundsException`.
   void SetAt(int index, char value);
   /// True when no unread byte is left.
-  bool eos() const { return position_ == bytes_.size(); }
+  bool eos() const { return position_ == size_; }
 
   /// All bytes held, and those not read yet. Both are valid until the stream is changed.
-  std::span<const std::uint8_t> bytes() const { return bytes_; }
-  std::span<const std::uint8_t> unread() const { return std::span(bytes_).subspan(position_); }
-  std::size_t unreadCount() const { return bytes_.size() - position_; }
+  std::span<const std::uint8_t> bytes() const { return {begin_, size_}; }
+  std::span<const std::uint8_t> unread() const { return {begin_ + position_, unreadCount()}; }
+  std::size_t unreadCount() const { return size_ - position_; }
 
-  /// Appends the bytes as they are.
-  void append(std::span<const std::uint8_t> bytes) { bytes_.insert(bytes_.end(), bytes.begin(), bytes.end()); }
+  /// Appends the bytes, which are not this stream's, as they are.
+  void append(std::span<const std::uint8_t> bytes) {
+    if (!bytes.empty()) std::memcpy(extend(bytes.size()), bytes.data(), bytes.size());
+  }
+  /// Appends that many bytes, which the caller fills in before anything else is done with the stream, and answers the
+  /// first of them.
+  std::uint8_t* extend(std::size_t count) {
+    if (room_ < count) [[unlikely]]
+      grow(count);
+    room_ -= count;
+    return own_.get() + std::exchange(size_, size_ + count);
+  }
   /// Consumes that many bytes; throws `KeystoneException`, and consumes nothing, when fewer are left.
   void skip(std::size_t count) {
     if (count > unreadCount()) [[unlikely]]
@@ -61,32 +125,12 @@ class HERALD_API ByteStream {
   /// Drops all bytes behind the first `size`; a larger size changes nothing.
   void truncate(std::size_t size);
   /// Empties the stream and keeps its memory for the next use.
-  void clear() {
-    bytes_.clear();
-    position_ = 0;
-  }
+  void clear();
 
  private:
   template <std::unsigned_integral T>
-  static T bigEndian(T value) {
-    if constexpr (std::endian::native == std::endian::big)
-      return value;
-    else
-      return swapped(value, std::make_index_sequence<sizeof(T)>());
-  }
-
-  // Without a loop, so that compilers see the one instruction that does it.
-  template <std::unsigned_integral T, std::size_t... BYTES>
-  static T swapped(T value, std::index_sequence<BYTES...>) {
-    return static_cast<T>((... | ((value >> 8 * BYTES & 0xFF) << 8 * (sizeof(T) - 1 - BYTES))));
-  }
-
-  template <std::unsigned_integral T>
   ByteStream& put(T value) {
-    value = bigEndian(value);
-    const std::size_t end = bytes_.size();
-    bytes_.resize(end + sizeof(T));
-    std::memcpy(bytes_.data() + end, &value, sizeof(T));
+    BigEndian<T>::store(value, extend(sizeof(T)));
     return *this;
   }
 
@@ -94,16 +138,19 @@ class HERALD_API ByteStream {
   T get() {
     if (unreadCount() < sizeof(T)) [[unlikely]]
       throwPastEnd(sizeof(T));
-    T value;
-    std::memcpy(&value, bytes_.data() + position_, sizeof(T));
-    position_ += sizeof(T);
-    return bigEndian(value);
+    return BigEndian<T>::load(begin_ + std::exchange(position_, position_ + sizeof(T)));
   }
 
+  bool isView() const { return begin_ != own_.get(); }
+  /// Makes room for that many more bytes in memory of the stream's own.
+  void grow(std::size_t count);
   [[noreturn]] void throwPastEnd(std::size_t count) const;
 
-  std::vector<std::uint8_t> bytes_;
+  std::unique_ptr<std::uint8_t[]> own_;
+  const std::uint8_t* begin_ = nullptr;  // in own_, or the caller's
+  std::size_t size_ = 0;
   std::size_t position_ = 0;
+  std::size_t room_ = 0;  // in own_, behind the bytes; none in a view
 };
 
 }  // namespace Tessel
