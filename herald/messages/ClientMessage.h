@@ -1,5 +1,6 @@
 #pragma once
 #include <herald/platform/keystone/StreamObjects.h>
+#include <herald/wire/MessageMemory.h>
 
 #include <string>
 
@@ -8,7 +9,8 @@ namespace Tessel {
 class AbstractClientMessageHandler;
 class FieldSink;
 
-/// Base of every message from a server. A message is a value; one thread at a time uses it.
+/// Base of every message from a server. A message is a value; one thread at a time uses it. See `MessageMemory` for
+/// where what it read lives.
 class HERALD_API ClientMessage : public StreamReadableObject {
  public:
   /// Reads the body, at whose first byte the stream stands, and answers whether it could be read. Throws what its
@@ -32,7 +34,11 @@ class HERALD_API ClientMessage : public StreamReadableObject {
   ClientMessage& operator=(const ClientMessage&) = default;
   ClientMessage& operator=(ClientMessage&&) = default;
 
+  /// For `read`: the message's own memory, or null when that holds what an earlier read took.
+  MessageMemory* memoryToReadInto() { return memory_.isUnused() ? &memory_ : nullptr; }
+
  private:
+  MessageMemory memory_;
   int nodeId_ = -1;
 };
 

@@ -42,7 +42,11 @@ DecodedMessage reportFailedRead(const ClientMessage& message) {
   return result;
 }
 
-DecodedMessage readMessage(std::unique_ptr<ClientMessage> message, ByteStream& in) {
+DecodedMessage create(int id, ByteStream& in) {
+  const ClientMessageRow* row = findClientMessageRow(id);
+  if (row == nullptr) return reportUnknownId(id);
+  if (row->create == nullptr) return {};
+  std::unique_ptr<ClientMessage> message = row->create();
   try {
     const bool readAll = message->read(in);
     return {.message = std::move(message),
@@ -52,16 +56,20 @@ DecodedMessage readMessage(std::unique_ptr<ClientMessage> message, ByteStream& i
   }
 }
 
-DecodedMessage create(int id, ByteStream& in) {
-  const ClientMessageRow* row = findClientMessageRow(id);
-  if (row == nullptr) return reportUnknownId(id);
-  if (row->create == nullptr) return {};
-  return readMessage(row->create(), in);
-}
-
 }  // namespace
 
 ClientMessage* ClientMessageFactory::byteArrayToMessage(int id, ByteStream& in) {
+  // The way of nearly every message, without an account of it.
+  if (const ClientMessageRow* row = findClientMessageRow(id); row != nullptr && row->create != nullptr) {
+    std::unique_ptr<ClientMessage> message = row->create();
+    try {
+      message->read(in);
+      return message.release();
+    } catch (...) {
+      reportFailedRead(*message);
+      return nullptr;
+    }
+  }
   return create(id, in).message.release();
 }
 

@@ -25,9 +25,9 @@ void EmptyMessage<Self>::describe(FieldSink&) const {}
 
 template <class Self, class Record, ReadResult RESULT>
 bool RecordMessage<Self, Record, RESULT>::read(ByteStream& in) {
-  WireReader reader(in);
-  reader("body", body_);
-  return RESULT == ReadResult::ALWAYS_TRUE || reader.succeeded();
+  const bool isRead = readFields(in, this->memoryToReadInto(), minimumWireSize<Record>(),
+                                 [this](auto& fields) { fields("body", body_); });
+  return RESULT == ReadResult::ALWAYS_TRUE || isRead;
 }
 
 template <class Self, class Record, ReadResult RESULT>
@@ -47,7 +47,7 @@ void RecordMessage<Self, Record, RESULT>::describe(FieldSink& sink) const {
 
 template <class Self>
 bool WireMessage<Self>::read(ByteStream& in) {
-  return readLayout(static_cast<Self&>(*this), in);
+  return readLayout(static_cast<Self&>(*this), in, this->memoryToReadInto());
 }
 
 template <class Self>

@@ -5,6 +5,7 @@
 #include <herald/messages/info_objects/PlayerInfo.h>
 #include <herald/messages/info_objects/PokerGameInfo.h>
 #include <herald/messages/info_objects/TesselInt.h>
+#include <herald/wire/Text.h>
 
 // Private tables, as the server tells of them.
 
@@ -65,7 +66,7 @@ class HERALD_API PGPlayerReqToJoinGame : public WireMessage<PGPlayerReqToJoinGam
 
  private:
   PlayerInfo player_;
-  TsString requestText_;
+  Text requestText_;
 };
 
 }  // namespace Tessel

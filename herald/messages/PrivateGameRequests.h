@@ -3,6 +3,7 @@
 #include <herald/messages/info_objects/JoinRequestStatus.h>
 #include <herald/messages/info_objects/PGSettings.h>
 #include <herald/messages/info_objects/PlayerInfo.h>
+#include <herald/wire/Text.h>
 
 #include <cstdint>
 #include <utility>
@@ -31,7 +32,7 @@ class HERALD_API PGJoinGameReq : public WireRequest<PGJoinGameReq, 520> {
 
  private:
   PlayerInfo player_;
-  TsString requestText_;
+  Text requestText_;
 };
 
 class HERALD_API PGGamesSettingsListReq : public EmptyRequest<PGGamesSettingsListReq, 540> {

@@ -7,6 +7,9 @@
 
 namespace Tessel {
 
+/// The id and the size of the body.
+inline constexpr std::size_t FRAME_HEADER_SIZE = 4;
+
 /// The longest body of a request, in bytes.
 inline constexpr std::size_t MAX_BODY_SIZE = 32767;
 

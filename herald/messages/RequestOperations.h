@@ -11,15 +11,17 @@ template <class Layout>
 bool writeFrame(short id, const Layout& layout, ByteStream& out) {
   WireSizer sizer;
   sizer("body", layout);
-  if (sizer.size() > MAX_BODY_SIZE) {
+  if (sizer.size() > MAX_BODY_SIZE) [[unlikely]] {
     reportBodyTooLong(sizer.size());
     return false;
   }
-  FrameGuard frame(out);
-  out << id << static_cast<std::int16_t>(sizer.size());
-  WireWriter writer(out);
+  const std::size_t before = out.bytes().size();
+  WireWriter writer(out.extend(FRAME_HEADER_SIZE + sizer.size() + WireWriter::SLACK));
+  writer("id", std::int16_t{id});
+  writer("size", static_cast<std::int16_t>(sizer.size()));
   writer("body", layout);
-  return writer.succeeded() && frame.complete();
+  out.truncate(writer.succeeded() ? before + FRAME_HEADER_SIZE + sizer.size() : before);
+  return writer.succeeded();
 }
 
 template <class Self, short REQUEST_ID>

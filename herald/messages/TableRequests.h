@@ -105,7 +105,7 @@ class HERALD_API ServerInTurnAction : public ImprovedRequest<ServerInTurnAction,
   std::int32_t playerId_ = -1;
   std::int32_t betRound_ = -1;
   std::int32_t actionType_ = -1;
-  AmountInfo amount_;
+  Amount amount_;
 };
 
 class HERALD_API ServerHurryAck : public EmptyRequest<ServerHurryAck, 142> {

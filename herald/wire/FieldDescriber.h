@@ -63,7 +63,7 @@ class FieldDescriber : public LayoutVisitor<FieldDescriber> {
       FieldDescriber inner(sink_, name);
       T::wire(value, inner);
     } else {
-      if (sink_.beginRecord(name, typeName<T>())) tellRecord(value);
+      if (sink_.beginRecord(name, recordName<T>())) tellRecord(value);
       sink_.endRecord();
     }
   }

@@ -5,6 +5,18 @@
 
 namespace Tessel {
 
+bool WireReader::readText(Text& text) {
+  try {
+    std::string utf8;
+    UTFEncoder::decodeFromTsUTF8(in_, utf8);
+    text.take(utf8, nullptr);
+    return true;
+  } catch (const KeystoneException& failure) {
+    failure.report();
+    return false;
+  }
+}
+
 void throwInfoObjectFailed() {
   throw KeystoneException(L"messages/info_objects/ObjectInfo", __LINE__, L"Failed to read info object.");
 }

@@ -1,5 +1,6 @@
 #pragma once
 #include <herald/platform/keystone/ByteStream.h>
+#include <herald/wire/StraightReader.h>
 #include <herald/wire/WireSizer.h>
 #include <herald/wire/WireTypes.h>
 
@@ -12,10 +13,16 @@ namespace Tessel {
 [[noreturn]] HERALD_API void throwCountPastEnd(std::int64_t count, std::size_t unread);
 [[noreturn]] HERALD_API void throwNegativeCount(std::int64_t count);
 
-/// Reads a layout from a stream. Once a field has failed, the fields after it are passed over and keep their values.
+/// Reads a layout from a stream field by field, by the rules that are stated here. Once a field has failed, the fields
+/// after it are passed over and keep their values.
 class WireReader {
  public:
   explicit WireReader(ByteStream& in) : in_(in) {}
+  /// Goes on where a straight read has ended.
+  WireReader(ByteStream& in, StraightReadEnded before)
+      : in_(in), fieldsToPass_(before.fieldsRead), succeededBefore_(before.succeeded) {
+    if (fieldsToPass_ == 0) succeeded_ = succeededBefore_;
+  }
 
   /// Whether every field so far could be read.
   bool succeeded() const { return succeeded_; }
@@ -38,13 +45,13 @@ class WireReader {
   /// A text without which the record cannot be read.
   template <WireText T>
   void required(const char*, T& text) {
-    if (succeeded_) succeeded_ = text.T::read(in_);
+    if (succeeded_ && !isPassed()) succeeded_ = readText(text);
   }
 
   /// A text that is read also after a field has failed.
   template <WireText T>
   void always(const char*, T& text) {
-    text.T::read(in_);
+    if (!isPassed()) readText(text);
   }
 
   /// A text that is not for logs.
@@ -62,7 +69,7 @@ class WireReader {
   /// A count, then that many items, whose own failures do not count. A negative count is an invalid argument.
   template <WireNumber Count, class List>
   void counted(const char*, List& list) {
-    if (!succeeded_) return;
+    if (!succeeded_ || isPassed()) return;
     const Count count = take<Count>();
     if (count < 0) throwNegativeCount(count);
     readItems(list, count);
@@ -71,13 +78,13 @@ class WireReader {
   /// The same, but a negative count means no items.
   template <WireNumber Count, class List>
   void countedOrNone(const char*, List& list) {
-    if (succeeded_) readItems(list, take<Count>());
+    if (succeeded_ && !isPassed()) readItems(list, take<Count>());
   }
 
   /// The same, and the count is kept as it came.
   template <WireNumber Count, class List>
   void countedKeeping(const char*, Count& count, List& list) {
-    if (!succeeded_) return;
+    if (!succeeded_ || isPassed()) return;
     count = take<Count>();
     readItems(list, count);
   }
@@ -93,7 +100,7 @@ class WireReader {
   /// The same, and the count is kept as it came.
   template <WireNumber Count, class List>
   void infoArrayKeeping(const char*, Count& count, List& list) {
-    if (!succeeded_) return;
+    if (!succeeded_ || isPassed()) return;
     count = take<Count>();
     readEach(list, count, [this](auto& record) {
       read(record);
@@ -104,7 +111,7 @@ class WireReader {
   /// Items without a count of their own: an earlier field says how many. None when that is negative.
   template <class List>
   void items(const char*, List& list, std::int32_t count) {
-    if (succeeded_) readItems(list, count);
+    if (succeeded_ && !isPassed()) readItems(list, count);
   }
 
   /// The same, for items that travel only under a condition on fields already read.
@@ -116,12 +123,12 @@ class WireReader {
   /// A rule that only reading applies: an operation of the record that answers whether the read goes on.
   template <class Self, class Rule>
   void onRead(Self& self, Rule rule) {
-    if (succeeded_) succeeded_ = (self.*rule)();
+    if (succeeded_ && !isPassed()) succeeded_ = (self.*rule)();
   }
 
   /// The read fails where nothing is left.
   void requireMore() { succeeded_ = succeeded_ && hasMore(); }
-  bool hasMore() const { return !in_.eos(); }
+  bool hasMore() const { return fieldsToPass_ > 0 || !in_.eos(); }
 
  private:
   template <WireNumber T>
@@ -133,14 +140,28 @@ class WireReader {
 
   template <class T>
   void read(T& field) {
-    if constexpr (WireNumber<T>)
-      in_ >> field;
-    else if constexpr (WireText<T>)
-      field.T::read(in_);
-    else if constexpr (WireLayout<T>)
+    if constexpr (WireNumber<T>) {
+      if (!isPassed()) in_ >> field;
+    } else if constexpr (WireText<T>) {
+      if (!isPassed()) readText(field);
+    } else if constexpr (WireLayout<T>) {
       T::wire(field, *this);
-    else
-      succeeded_ = field.T::read(in_);
+    } else {
+      if (!isPassed()) succeeded_ = field.T::read(in_);
+    }
+  }
+
+  bool readText(Text& text);
+  template <WireText T>
+  bool readText(T& text) {
+    return text.T::read(in_);
+  }
+
+  // Counts the fields as a straight reader does.
+  bool isPassed() {
+    if (fieldsToPass_ == 0) return false;
+    if (--fieldsToPass_ == 0) succeeded_ = succeededBefore_;
+    return true;
   }
 
   template <class List, WireNumber Count>
@@ -179,13 +200,12 @@ class WireReader {
 
   template <class List>
   static void resize(List& list, std::size_t size) {
-    if constexpr (requires { list.setSize(0); })
-      list.setSize(static_cast<int>(size));
-    else
-      list.resize(size);
+    storageOf(list).resize(size);
   }
 
   ByteStream& in_;
+  unsigned fieldsToPass_ = 0;
+  bool succeededBefore_ = true;
   bool succeeded_ = true;
 };
 

@@ -8,6 +8,9 @@ namespace Tessel {
 /// Counts the bytes of a layout.
 class WireSizer : public LayoutVisitor<WireSizer> {
  public:
+  /// Whether to count what travels only under a condition, where that holds.
+  explicit WireSizer(bool countsConditional = true) : countsConditional_(countsConditional) {}
+
   std::size_t size() const { return size_; }
 
  private:
@@ -17,10 +20,10 @@ class WireSizer : public LayoutVisitor<WireSizer> {
   void field(std::string_view, const T& value) {
     if constexpr (WireNumber<T>)
       size_ += sizeof(T);
-    else if constexpr (requires { value.size(); })
-      size_ += static_cast<std::size_t>(value.T::size());
-    else
+    else if constexpr (WireLayout<T>)
       T::wire(value, *this);
+    else
+      size_ += static_cast<std::size_t>(value.T::size());
   }
 
   template <class T>
@@ -39,18 +42,27 @@ class WireSizer : public LayoutVisitor<WireSizer> {
     for (const auto& item : list) field<typename List::value_type>(name, item);
   }
 
-  bool enter(bool present) { return present; }
+  bool enter(bool present) const { return present && countsConditional_; }
   void leave() {}
 
+  bool countsConditional_;
   std::size_t size_ = 0;
 };
 
-/// The fewest bytes that a T can take: those of a default T, whose texts and lists are empty.
+/// The fewest bytes that a T can take: those of a default T, whose texts and lists are empty, without its conditional
+/// fields.
 template <class T>
 std::size_t minimumWireSize() {
-  WireSizer sizer;
-  sizer("", T());
-  return sizer.size();
+  if constexpr (WireNumber<T>) {
+    return sizeof(T);
+  } else {
+    static const std::size_t minimum = [] {
+      WireSizer sizer(false);
+      sizer("", T());
+      return sizer.size();
+    }();
+    return minimum;
+  }
 }
 
 }  // namespace Tessel

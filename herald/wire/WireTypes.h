@@ -9,6 +9,7 @@
 
 namespace Tessel {
 
+class Text;
 class TsString;
 
 /// The class name of T without its namespace.
@@ -30,6 +31,15 @@ consteval std::string_view typeName() {
   return name;
 }
 
+/// The class name that descriptions give a record: its own, or what it says that it stands for.
+template <class T>
+consteval std::string_view recordName() {
+  if constexpr (requires { T::RECORD_NAME; })
+    return T::RECORD_NAME;
+  else
+    return typeName<T>();
+}
+
 // A field is one of: a number, a text, a layout (a class that declares `wire`), or a class that reads and describes
 // itself by hand.
 
@@ -40,7 +50,7 @@ template <class T>
 concept WireNumber = OneOf<T, bool, std::int8_t, std::int16_t, std::int32_t, std::int64_t>;
 
 template <class T>
-concept WireText = std::same_as<T, TsString>;
+concept WireText = OneOf<T, Text, TsString>;
 
 struct AnyFields {};
 

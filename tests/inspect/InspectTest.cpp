@@ -7,6 +7,7 @@
 #include <herald/messages/info_objects/TesselBool.h>
 #include <herald/messages/info_objects/TournamentJoinRequest.h>
 #include <herald/messages/info_objects/TreeNodeInfo.h>
+#include <herald/messages/info_objects/TsString.h>
 #include <herald/platform/keystone/ByteStream.h>
 #include <tests/support/Golden.h>
 #include <tests/support/Notation.h>

@@ -36,7 +36,7 @@ class HERALD_API TourBreakInfo : public WireMessage<TourBreakInfo> {
   std::int64_t remainingMs_ = -1;
   std::int32_t numberOfEntrants_ = -1;
   std::int32_t numberOfRemainingPlayers_ = -1;
-  AmountInfo averageChipStack_;
+  Amount averageChipStack_;
 };
 
 }  // namespace Tessel

@@ -7,11 +7,12 @@
 #include <herald/messages/info_objects/RankedPlayerInfo.h>
 #include <herald/messages/info_objects/TesselByte.h>
 #include <herald/messages/info_objects/TourLevelInfo.h>
-#include <herald/messages/info_objects/TsString.h>
+#include <herald/messages/info_objects/WireRecord.h>
 #include <herald/platform/keystone/TsArray.h>
 #include <herald/platform/tableau/TableNotificationEvent.h>
 #include <herald/platform/tableau/TournamentNotification.h>
 #include <herald/platform/tableau/TournamentSynchedEvent.h>
+#include <herald/wire/Text.h>
 
 #include <cstdint>
 
@@ -123,7 +124,7 @@ class HERALD_API TourKnockoutInfo : public WireMessage<TourKnockoutInfo> {
 
  private:
   std::int32_t playerId_ = -1;
-  TsString playerName_;
+  Text playerName_;
   std::int32_t finalPosition_ = -1;
   MonetaryPrizeList monetaryPrizes_;
   TicketPrizeList ticketPrizes_;
@@ -145,7 +146,7 @@ class HERALD_API TourPlayerLeave : public WireMessage<TourPlayerLeave> {
 
  private:
   std::int32_t playerId_ = -1;
-  TsString tableMovingToName_;
+  Text tableMovingToName_;
 };
 
 /// A player comes to the user's table from another.
@@ -163,8 +164,8 @@ class HERALD_API TourPlayerArrive : public WireMessage<TourPlayerArrive> {
   }
 
  private:
-  TsString playerName_;
-  TsString tableArrivingFromName_;
+  Text playerName_;
+  Text tableArrivingFromName_;
 };
 
 /// The flight is about to end.

@@ -1,7 +1,6 @@
 #pragma once
 #include <herald/messages/info_objects/MoneyInfo.h>
-
-#include <vector>
+#include <herald/platform/keystone/List.h>
 
 namespace Tessel {
 
@@ -24,7 +23,7 @@ class HERALD_API AccountBalanceInfo : public ReadableRecord<AccountBalanceInfo> 
   }
 
  private:
-  std::vector<MoneyInfo> balances_;
+  List<MoneyAmount> balances_;
 };
 
 }  // namespace Tessel

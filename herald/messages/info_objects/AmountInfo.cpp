@@ -5,6 +5,8 @@ namespace Tessel {
 
 AmountInfo::AmountInfo(ByteStream& in) { AmountInfo::read(in); }
 
-std::wstring AmountInfo::toDebugString() const { return format(L"[AmountInfo: amount=%li]", amount_); }
+std::wstring Amount::toDebugString() const { return format(L"[AmountInfo: amount=%li]", amount_); }
+
+std::wstring AmountInfo::toDebugString() const { return amount_.toDebugString(); }
 
 }  // namespace Tessel

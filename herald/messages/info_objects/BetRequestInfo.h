@@ -1,8 +1,8 @@
 #pragma once
 #include <herald/messages/info_objects/PlayerActionsInfo.h>
+#include <herald/platform/keystone/List.h>
 
 #include <cstdint>
-#include <vector>
 
 namespace Tessel {
 
@@ -34,8 +34,8 @@ class HERALD_API BetRequestInfo : public ReadableRecord<BetRequestInfo> {
   }
 
  private:
-  std::vector<std::int8_t> requestedSeats_;
-  std::vector<PlayerActionsInfo> playerActions_;
+  List<std::int8_t> requestedSeats_;
+  List<PlayerActionsInfo> playerActions_;
   std::int8_t totalTime_ = -1;
   std::int8_t timeLeft_ = -1;
 };

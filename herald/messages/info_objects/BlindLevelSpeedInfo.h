@@ -30,7 +30,7 @@ class HERALD_API BlindLevelSpeedInfo : public ReadableRecord<BlindLevelSpeedInfo
  private:
   std::int16_t id_ = -1;
   TesselByte blindSpeed_;
-  MoneyInfo startingChipStack_;
+  MoneyAmount startingChipStack_;
 };
 
 }  // namespace Tessel

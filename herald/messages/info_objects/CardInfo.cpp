@@ -11,11 +11,6 @@ namespace {
 
 constexpr const wchar_t* FILE_NAME = L"messages/info_objects/CardInfo";
 
-constexpr int LOWEST_COLOR = -1;
-constexpr int HIGHEST_COLOR = 3;
-constexpr int LOWEST_NUMBER = -1;
-constexpr int HIGHEST_NUMBER = 13;
-
 // By wire color, from -1 on.
 constexpr Card::Color COLORS[] = {Card::Color::HIDDEN, Card::Color::DIAMONDS, Card::Color::HEARTS, Card::Color::CLUBS,
                                   Card::Color::SPADES};
@@ -58,12 +53,10 @@ std::wstring CardInfo::toDebugString() const {
   return format(L"[CardInfo: Player id=%d, seat=%d, %s]", playerId_, seat_, getCard().toCString());
 }
 
-bool CardInfo::checkCard() const {
+void CardInfo::throwNoCard() const {
   if (color_ < LOWEST_COLOR || color_ > HIGHEST_COLOR)
     throw OutOfBoundsException(FILE_NAME, __LINE__, L"color", LOWEST_COLOR, HIGHEST_COLOR, color_);
-  if (number_ < LOWEST_NUMBER || number_ > HIGHEST_NUMBER || number_ == 0)
-    throw OutOfBoundsException(FILE_NAME, __LINE__, L"number", LOWEST_NUMBER, HIGHEST_NUMBER, number_);
-  return true;
+  throw OutOfBoundsException(FILE_NAME, __LINE__, L"number", LOWEST_NUMBER, HIGHEST_NUMBER, number_);
 }
 
 }  // namespace Tessel

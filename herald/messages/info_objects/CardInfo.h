@@ -39,7 +39,19 @@ class HERALD_API CardInfo : public ReadableRecord<CardInfo> {
   }
 
  private:
-  bool checkCard() const;
+  // On the wire; no number is 0.
+  static constexpr int LOWEST_COLOR = -1;
+  static constexpr int HIGHEST_COLOR = 3;
+  static constexpr int LOWEST_NUMBER = -1;
+  static constexpr int HIGHEST_NUMBER = 13;
+
+  bool checkCard() const {
+    if (color_ < LOWEST_COLOR || color_ > HIGHEST_COLOR || number_ < LOWEST_NUMBER || number_ > HIGHEST_NUMBER
+        || number_ == 0) [[unlikely]]
+      throwNoCard();
+    return true;
+  }
+  [[noreturn]] void throwNoCard() const;
 
   std::int32_t playerId_ = -1;
   std::int32_t seat_ = -1;

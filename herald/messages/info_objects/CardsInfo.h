@@ -1,5 +1,6 @@
 #pragma once
 #include <herald/messages/info_objects/CardInfo.h>
+#include <herald/platform/keystone/List.h>
 
 #include <vector>
 
@@ -9,7 +10,7 @@ namespace Tessel {
 class HERALD_API CardsInfo : public ReadableRecord<CardsInfo> {
  public:
   CardsInfo() = default;
-  explicit CardsInfo(std::vector<CardInfo> cards) : cards_(std::move(cards)) {}
+  explicit CardsInfo(const std::vector<CardInfo>& cards) : cards_(cards.begin(), cards.end()) {}
 
   int getNrCards() const { return static_cast<int>(cards_.size()); }
   /// An index outside 0 to `getNrCards()` - 1 throws `OutOfBoundsException`, here and below.
@@ -31,9 +32,9 @@ class HERALD_API CardsInfo : public ReadableRecord<CardsInfo> {
   }
 
  private:
-  std::vector<CardInfo> cards_;
+  List<CardInfo> cards_;
   bool hasWinningCards_ = false;
-  std::vector<bool> winningCards_;
+  List<bool> winningCards_;
 };
 
 }  // namespace Tessel

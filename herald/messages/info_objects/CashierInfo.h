@@ -20,9 +20,9 @@ class HERALD_API CashierInfo : public ReadableRecord<CashierInfo> {
   }
 
  private:
-  AmountInfo accountBalance_;
-  AmountInfo minBuyIn_;
-  AmountInfo maxBuyIn_;
+  Amount accountBalance_;
+  Amount minBuyIn_;
+  Amount maxBuyIn_;
 };
 
 }  // namespace Tessel

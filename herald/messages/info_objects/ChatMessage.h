@@ -1,5 +1,6 @@
 #pragma once
-#include <herald/messages/info_objects/TsString.h>
+#include <herald/messages/info_objects/WireRecord.h>
+#include <herald/wire/Text.h>
 
 namespace Tessel {
 
@@ -27,8 +28,8 @@ class HERALD_API ChatMessage : public ReadableWritableRecord<ChatMessage> {
   }
 
  private:
-  TsString nickname_;
-  TsString message_;
+  Text nickname_;
+  Text message_;
 };
 
 }  // namespace Tessel

@@ -1,8 +1,9 @@
 #pragma once
-#include <herald/messages/info_objects/TsString.h>
+#include <herald/messages/info_objects/WireRecord.h>
 #include <herald/platform/tableau/GameType.h>
 #include <herald/platform/tableau/LimitType.h>
 #include <herald/platform/tableau/TournamentType.h>
+#include <herald/wire/Text.h>
 
 #include <cstdint>
 
@@ -53,8 +54,8 @@ class HERALD_API CreateTourRequestType : public WritableRecord<CreateTourRequest
   std::int64_t value10_ = -1;
   std::int16_t value11_ = -1;
   std::int32_t value12_ = -1;
-  TsString text13_;
-  TsString text14_;
+  Text text13_;
+  Text text14_;
 };
 
 }  // namespace Tessel

@@ -27,7 +27,7 @@ class HERALD_API CreditInfo : public ReadableWritableRecord<CreditInfo> {
  private:
   std::int32_t playerId_ = -1;
   std::int8_t seat_ = -1;
-  AmountInfo amount_;
+  Amount amount_;
 };
 
 }  // namespace Tessel

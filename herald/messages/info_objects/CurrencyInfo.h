@@ -1,5 +1,6 @@
 #pragma once
-#include <herald/messages/info_objects/TsString.h>
+#include <herald/messages/info_objects/WireRecord.h>
+#include <herald/wire/Text.h>
 
 #include <cstdint>
 
@@ -30,9 +31,9 @@ class HERALD_API CurrencyInfo : public PlainRecord<CurrencyInfo> {
   }
 
  private:
-  TsString id_;
-  TsString prefix_;
-  TsString postfix_;
+  Text id_;
+  Text prefix_;
+  Text postfix_;
   std::int16_t cutOffAmount_ = -1;
   std::int8_t sortingPriority_ = -1;
 };

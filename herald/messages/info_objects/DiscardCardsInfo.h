@@ -1,9 +1,9 @@
 #pragma once
 #include <herald/messages/info_objects/WireRecord.h>
+#include <herald/platform/keystone/List.h>
 #include <herald/platform/keystone/TsArray.h>
 
 #include <cstdint>
-#include <vector>
 
 namespace Tessel {
 
@@ -28,7 +28,7 @@ class HERALD_API DiscardCardsInfo : public ReadableWritableRecord<DiscardCardsIn
 
  private:
   std::int8_t seat_ = -1;
-  std::vector<std::int8_t> cards_;
+  List<std::int8_t> cards_;
 };
 
 }  // namespace Tessel

@@ -1,5 +1,6 @@
 #pragma once
-#include <herald/messages/info_objects/TsString.h>
+#include <herald/messages/info_objects/WireRecord.h>
+#include <herald/wire/Text.h>
 
 #include <cstdint>
 
@@ -24,7 +25,7 @@ class HERALD_API EnteredTour : public ReadableRecord<EnteredTour> {
  private:
   std::int32_t tournamentId_ = -1;
   std::int16_t nodeId_ = -1;
-  TsString name_;
+  Text name_;
 };
 
 }  // namespace Tessel

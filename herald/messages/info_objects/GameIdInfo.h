@@ -1,8 +1,8 @@
 #pragma once
 #include <herald/messages/info_objects/WireRecord.h>
+#include <herald/platform/keystone/List.h>
 
 #include <cstdint>
-#include <vector>
 
 namespace Tessel {
 
@@ -20,7 +20,7 @@ class HERALD_API GameIdInfo : public ReadableRecord<GameIdInfo> {
   }
 
  private:
-  std::vector<std::int32_t> ids_;
+  List<std::int32_t> ids_;
 };
 
 }  // namespace Tessel

@@ -1,11 +1,12 @@
 #include <herald/messages/info_objects/GameInfo.h>
 #include <herald/messages/info_objects/InfoListOperations.h>
+#include <herald/messages/info_objects/TsString.h>
 
 namespace Tessel {
 
 bool GameInfo::write(ByteStream& out) const {
   out << id_;
-  if (!name_.write(out)) return false;
+  if (!TsString(getName()).write(out)) return false;
   out << nrPlayers_ << maxNrPlayers_ << nrPlayersWatching_ << std::int32_t{monetaryUnitId_} << port_ << type_;
   return true;
 }

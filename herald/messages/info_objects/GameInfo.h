@@ -1,5 +1,6 @@
 #pragma once
-#include <herald/messages/info_objects/TsString.h>
+#include <herald/messages/info_objects/WireRecord.h>
+#include <herald/wire/Text.h>
 
 #include <cstdint>
 
@@ -43,7 +44,7 @@ class HERALD_API GameInfo : public ReadableRecord<GameInfo> {
 
  private:
   std::int32_t id_ = -1;
-  TsString name_;
+  Text name_;
   std::int16_t nrPlayers_ = -1;
   std::int16_t maxNrPlayers_ = -1;
   std::int16_t nrPlayersWatching_ = -1;

@@ -1,10 +1,10 @@
 #pragma once
 #include <herald/messages/info_objects/WireRecord.h>
+#include <herald/platform/keystone/List.h>
 #include <herald/platform/keystone/TsArray.h>
 #include <herald/platform/tableau/HandValue.h>
 
 #include <cstdint>
-#include <vector>
 
 namespace Tessel {
 
@@ -41,7 +41,7 @@ class HERALD_API HandValueInfo : public ReadableRecord<HandValueInfo> {
   std::int8_t playerSeat_ = -1;
   std::int8_t handType_ = -1;
   std::int8_t handValue_ = -1;
-  std::vector<std::int8_t> specifiedCards_;
+  List<std::int8_t> specifiedCards_;
 };
 
 }  // namespace Tessel

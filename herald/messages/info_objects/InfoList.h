@@ -1,9 +1,9 @@
 #pragma once
 #include <herald/messages/info_objects/RecordIndex.h>
 #include <herald/messages/info_objects/WireRecord.h>
+#include <herald/platform/keystone/List.h>
 
 #include <cstdint>
-#include <vector>
 
 namespace Tessel {
 
@@ -34,7 +34,7 @@ class HERALD_API InfoList : public ReadableRecord<InfoList<T>> {
 
  private:
   std::int16_t count_ = 0;
-  std::vector<T> elements_;
+  List<T> elements_;
 };
 
 }  // namespace Tessel

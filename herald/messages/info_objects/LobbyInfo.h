@@ -1,8 +1,9 @@
 #pragma once
 #include <herald/messages/info_objects/PlayerInGameInfo.h>
+#include <herald/platform/keystone/List.h>
+#include <herald/wire/Text.h>
 
 #include <cstdint>
-#include <vector>
 
 namespace Tessel {
 
@@ -39,10 +40,10 @@ class HERALD_API LobbyInfo : public ReadableRecord<LobbyInfo> {
 
   std::int32_t id_ = -1;
   std::int8_t nrPlayers_ = 0;
-  std::vector<PlayerInGameInfo> players_;
+  List<PlayerInGameInfo> players_;
   std::int8_t nrPlayersWaiting_ = 0;
-  std::vector<PlayerInfo> playersWaiting_;
-  TsString name_;
+  List<PlayerInfo> playersWaiting_;
+  Text name_;
 };
 
 }  // namespace Tessel

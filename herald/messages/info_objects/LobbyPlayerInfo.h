@@ -1,5 +1,6 @@
 #pragma once
-#include <herald/messages/info_objects/TsString.h>
+#include <herald/messages/info_objects/WireRecord.h>
+#include <herald/wire/Text.h>
 
 #include <cstdint>
 
@@ -25,7 +26,7 @@ class HERALD_API LobbyPlayerInfo : public ReadableRecord<LobbyPlayerInfo> {
 
  private:
   std::int32_t playerId_ = -1;
-  TsString playerName_;
+  Text playerName_;
   std::int8_t attributes_ = -1;
 };
 

@@ -1,6 +1,7 @@
 #pragma once
 #include <herald/messages/info_objects/MoneyInfo.h>
-#include <herald/messages/info_objects/TsString.h>
+#include <herald/messages/info_objects/WireRecord.h>
+#include <herald/wire/Text.h>
 
 #include <cstdint>
 
@@ -32,11 +33,11 @@ class HERALD_API LobbyTableInfo : public ReadableRecord<LobbyTableInfo> {
 
  private:
   std::int32_t tableId_ = -1;
-  TsString tableName_;
+  Text tableName_;
   std::int16_t numSeatedPlayers_ = -1;
   std::int8_t attributes_ = -1;
-  MoneyInfo minChipStack_;
-  MoneyInfo maxChipStack_;
+  MoneyAmount minChipStack_;
+  MoneyAmount maxChipStack_;
 };
 
 }  // namespace Tessel

@@ -7,7 +7,7 @@ namespace Tessel {
 namespace {
 
 template <class Entry>
-Entry entryAt(const std::vector<Entry>& entries, int i) {
+Entry entryAt(const List<Entry>& entries, int i) {
   return i >= 0 && static_cast<std::size_t>(i) < entries.size() ? entries[static_cast<std::size_t>(i)] : Entry();
 }
 

@@ -2,8 +2,7 @@
 #include <herald/messages/info_objects/CurrencyInfo.h>
 #include <herald/messages/info_objects/MonetaryTypeInfo.h>
 #include <herald/messages/info_objects/MonetaryUnitInfo.h>
-
-#include <vector>
+#include <herald/platform/keystone/List.h>
 
 namespace Tessel {
 
@@ -38,9 +37,9 @@ class HERALD_API MonetaryInfo : public PlainRecord<MonetaryInfo> {
   }
 
  private:
-  std::vector<MonetaryUnitInfo> units_;
-  std::vector<MonetaryTypeInfo> types_;
-  std::vector<CurrencyInfo> currencies_;
+  List<MonetaryUnitInfo> units_;
+  List<MonetaryTypeInfo> types_;
+  List<CurrencyInfo> currencies_;
 };
 
 }  // namespace Tessel

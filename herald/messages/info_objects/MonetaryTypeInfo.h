@@ -1,5 +1,6 @@
 #pragma once
-#include <herald/messages/info_objects/TsString.h>
+#include <herald/messages/info_objects/WireRecord.h>
+#include <herald/wire/Text.h>
 
 #include <cstdint>
 
@@ -36,8 +37,8 @@ class HERALD_API MonetaryTypeInfo : public PlainRecord<MonetaryTypeInfo> {
   static constexpr char IS_ALWAYS_REFILLABLE = 2;
   static constexpr char IS_REAL = 4;
 
-  TsString id_;
-  TsString name_;
+  Text id_;
+  Text name_;
   std::int8_t properties_ = 0;
   std::int8_t sortingPriority_ = -1;
 };

@@ -1,5 +1,6 @@
 #pragma once
-#include <herald/messages/info_objects/TsString.h>
+#include <herald/messages/info_objects/WireRecord.h>
+#include <herald/wire/Text.h>
 
 #include <cstdint>
 
@@ -27,8 +28,8 @@ class HERALD_API MonetaryUnitInfo : public PlainRecord<MonetaryUnitInfo> {
 
  private:
   std::int16_t id_ = -1;
-  TsString monetaryTypeId_;
-  TsString currencyId_;
+  Text monetaryTypeId_;
+  Text currencyId_;
 };
 
 }  // namespace Tessel

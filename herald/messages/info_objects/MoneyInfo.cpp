@@ -3,11 +3,12 @@
 
 namespace Tessel {
 
-MoneyInfo::MoneyInfo(const Money& money)
-    : monetaryUnitId_(static_cast<std::int16_t>(money.getMonetaryUnitId())), amount_(money.getAmount()) {}
+std::wstring MoneyAmount::toDebugString() const { return format(L"[MoneyInfo: %s ]", getMoney().toString()); }
+
+MoneyInfo::MoneyInfo(const Money& money) : value_(money) {}
 
 MoneyInfo::MoneyInfo(ByteStream& in) { MoneyInfo::read(in); }
 
-std::wstring MoneyInfo::toDebugString() const { return format(L"[MoneyInfo: %s ]", getMoney().toString()); }
+std::wstring MoneyInfo::toDebugString() const { return value_.toDebugString(); }
 
 }  // namespace Tessel

@@ -4,19 +4,21 @@
 
 namespace Tessel {
 
-/// An amount with the monetary unit that it is in.
-class HERALD_API MoneyInfo : public ReadableWritableRecord<MoneyInfo> {
+/// An amount with the monetary unit that it is in, as a field of a record: what a `MoneyInfo` holds, without its
+/// operations of a record.
+class HERALD_API MoneyAmount {
  public:
-  MoneyInfo() = default;
-  explicit MoneyInfo(const Money& money);
-  /// Reads the record at once; throws `KeystoneException` when the stream is too short.
-  explicit MoneyInfo(ByteStream& in);
+  static constexpr std::string_view RECORD_NAME = "MoneyInfo";
+
+  MoneyAmount() = default;
+  explicit MoneyAmount(const Money& money)
+      : amount_(money.getAmount()), monetaryUnitId_(static_cast<std::int16_t>(money.getMonetaryUnitId())) {}
 
   Money getMoney() const { return {amount_.getAmount(), monetaryUnitId_}; }
   int getMonetaryUnitId() const { return monetaryUnitId_; }
   std::int64_t getAmount() const { return amount_.getAmount(); }
 
-  std::wstring toDebugString() const override;
+  std::wstring toDebugString() const;
 
   template <class Self, class Fields>
   static void wire(Self& self, Fields& fields) {
@@ -25,8 +27,31 @@ class HERALD_API MoneyInfo : public ReadableWritableRecord<MoneyInfo> {
   }
 
  private:
+  Amount amount_;
   std::int16_t monetaryUnitId_ = 0;
-  AmountInfo amount_;
+};
+
+/// An amount with the monetary unit that it is in.
+class HERALD_API MoneyInfo : public ReadableWritableRecord<MoneyInfo> {
+ public:
+  MoneyInfo() = default;
+  explicit MoneyInfo(const Money& money);
+  /// Reads the record at once; throws `KeystoneException` when the stream is too short.
+  explicit MoneyInfo(ByteStream& in);
+
+  Money getMoney() const { return value_.getMoney(); }
+  int getMonetaryUnitId() const { return value_.getMonetaryUnitId(); }
+  std::int64_t getAmount() const { return value_.getAmount(); }
+
+  std::wstring toDebugString() const override;
+
+  template <class Self, class Fields>
+  static void wire(Self& self, Fields& fields) {
+    MoneyAmount::wire(self.value_, fields);
+  }
+
+ private:
+  MoneyAmount value_;
 };
 
 }  // namespace Tessel

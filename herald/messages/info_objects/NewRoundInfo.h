@@ -1,8 +1,8 @@
 #pragma once
 #include <herald/messages/info_objects/WireRecord.h>
+#include <herald/platform/keystone/List.h>
 
 #include <cstdint>
-#include <vector>
 
 namespace Tessel {
 
@@ -32,7 +32,7 @@ class HERALD_API NewRoundInfo : public ReadableRecord<NewRoundInfo> {
 
   std::int32_t handNumber_ = -1;
   std::int32_t nrOfPlayers_ = -1;
-  std::vector<bool> players_;
+  List<bool> players_;
 };
 
 }  // namespace Tessel

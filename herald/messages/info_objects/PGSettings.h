@@ -1,5 +1,6 @@
 #pragma once
 #include <herald/messages/info_objects/PokerGameInfo.h>
+#include <herald/messages/info_objects/TsString.h>
 
 namespace Tessel {
 

@@ -1,9 +1,10 @@
 #pragma once
 #include <herald/messages/info_objects/AmountInfo.h>
-#include <herald/messages/info_objects/TsString.h>
+#include <herald/messages/info_objects/WireRecord.h>
 #include <herald/platform/keystone/MoneyLimit.h>
 #include <herald/platform/tableau/GameType.h>
 #include <herald/platform/tableau/LimitType.h>
+#include <herald/wire/Text.h>
 
 #include <cstdint>
 
@@ -44,10 +45,10 @@ class HERALD_API PGSettingsInfo : public ReadableRecord<PGSettingsInfo> {
   std::int32_t settingId_ = -1;
   std::int8_t gameType_ = -1;
   std::int8_t limitType_ = -1;
-  TsString description_;
+  Text description_;
   std::int16_t monetaryUnitId_ = -1;
-  AmountInfo lowerLimit_;
-  AmountInfo upperLimit_;
+  Amount lowerLimit_;
+  Amount upperLimit_;
   MoneyLimit limits_;
 };
 

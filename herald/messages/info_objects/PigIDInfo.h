@@ -1,5 +1,6 @@
 #pragma once
-#include <herald/messages/info_objects/TsString.h>
+#include <herald/messages/info_objects/WireRecord.h>
+#include <herald/wire/Text.h>
 
 #include <cstdint>
 
@@ -20,7 +21,7 @@ class HERALD_API PigIDInfo : public ReadableRecord<PigIDInfo> {
   }
 
  private:
-  TsString nickName_;
+  Text nickName_;
   std::int32_t gameId_ = -1;
 };
 

@@ -1,6 +1,7 @@
 #pragma once
 #include <herald/messages/info_objects/MoneyInfo.h>
-#include <herald/messages/info_objects/TsString.h>
+#include <herald/messages/info_objects/WireRecord.h>
+#include <herald/wire/Text.h>
 
 namespace Tessel {
 
@@ -14,7 +15,7 @@ class HERALD_API PingInfoInfo : public ReadableRecord<PingInfoInfo, ReadableWrit
 
   void setNick(std::wstring_view nick) { nick_.setString(nick); }
   void setPing(int ping) { ping_ = static_cast<std::int16_t>(ping); }
-  void setMoneyAtTable(const Money& money) { moneyAtTable_ = MoneyInfo(money); }
+  void setMoneyAtTable(const Money& money) { moneyAtTable_ = MoneyAmount(money); }
 
   /// The record is never sent: writes nothing and answers false.
   bool write(ByteStream& out) const override;
@@ -29,9 +30,9 @@ class HERALD_API PingInfoInfo : public ReadableRecord<PingInfoInfo, ReadableWrit
   }
 
  private:
-  TsString nick_;
+  Text nick_;
   std::int16_t ping_ = -1;
-  MoneyInfo moneyAtTable_;
+  MoneyAmount moneyAtTable_;
 };
 
 }  // namespace Tessel

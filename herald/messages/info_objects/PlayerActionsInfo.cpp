@@ -6,15 +6,8 @@
 namespace Tessel {
 
 namespace {
-
 constexpr const wchar_t* FILE_NAME = L"messages/info_objects/PlayerActionsInfo";
-
-// The codes of the types 0 to 2 count down from this one.
-constexpr int FIRST_BET_TYPE_CODE = -11;
-
-constexpr int betTypeCode(BetType type) { return FIRST_BET_TYPE_CODE - static_cast<int>(type); }
-
-}  // namespace
+}
 
 PlayerActionsInfo::PlayerActionsInfo(int seat, bool mayFold, bool mayCheckFold, bool mayCheckCall, bool mayCallAny,
                                      bool mayBetRaise, bool mayBetRaiseAny, std::int64_t checkCallValue,
@@ -24,15 +17,9 @@ PlayerActionsInfo::PlayerActionsInfo(int seat, bool mayFold, bool mayCheckFold, 
                                             | (mayCheckCall ? MAY_CHECK_CALL : 0) | (mayCallAny ? MAY_CALL_ANY : 0)
                                             | (mayBetRaise ? MAY_BET_RAISE : 0)
                                             | (mayBetRaiseAny ? MAY_BET_RAISE_ANY : 0))),
-      checkCallValue_(checkCallValue), betTypeCode_(static_cast<std::int8_t>(betTypeCode(betType))),
+      checkCallValue_(checkCallValue),
+      betTypeCode_(static_cast<std::int8_t>(FIRST_BET_TYPE_CODE - static_cast<int>(betType))),
       firstBetPlaced_(firstBetPlaced), bets_(bets.begin(), bets.end()) {}
-
-BetType PlayerActionsInfo::convertBetType(int code) {
-  for (const BetType type : {BetType::TYPE_0, BetType::TYPE_1, BetType::TYPE_2}) {
-    if (code == betTypeCode(type)) return type;
-  }
-  return BetType::NO_VALID_TYPE;
-}
 
 std::int64_t PlayerActionsInfo::getBet(int i) const {
   checkRecordIndex(FILE_NAME, i, getNrBets());
@@ -46,10 +33,8 @@ bool PlayerActionsInfo::operator==(const PlayerActionsInfo& other) const {
          && getBetType() == other.getBetType() && firstBetPlaced_ == other.firstBetPlaced_ && bets_ == other.bets_;
 }
 
-bool PlayerActionsInfo::checkBetType() const {
-  if (mayBetRaise() && getBetType() == BetType::NO_VALID_TYPE)
-    throw KeystoneException(FILE_NAME, __LINE__, L"No valid bet type specified.");
-  return true;
+void PlayerActionsInfo::throwNoBetType() {
+  throw KeystoneException(FILE_NAME, __LINE__, L"No valid bet type specified.");
 }
 
 }  // namespace Tessel

@@ -1,9 +1,9 @@
 #pragma once
 #include <herald/messages/info_objects/AmountInfo.h>
+#include <herald/platform/keystone/List.h>
 #include <herald/platform/keystone/TsArray.h>
 
 #include <cstdint>
-#include <vector>
 
 namespace Tessel {
 
@@ -19,7 +19,10 @@ class HERALD_API PlayerActionsInfo : public ReadableRecord<PlayerActionsInfo> {
                     const TsArray<std::int64_t>& bets);
 
   /// On the wire -11, -12 and -13 are the types 0, 1 and 2; any other code is no valid type.
-  static BetType convertBetType(int code);
+  static BetType convertBetType(int code) {
+    const bool isKnown = code <= FIRST_BET_TYPE_CODE && code > FIRST_BET_TYPE_CODE - BET_TYPES;
+    return isKnown ? static_cast<BetType>(FIRST_BET_TYPE_CODE - code) : BetType::NO_VALID_TYPE;
+  }
 
   int getSeat() const { return seat_; }
   bool mayFold() const { return may(MAY_FOLD); }
@@ -53,6 +56,10 @@ class HERALD_API PlayerActionsInfo : public ReadableRecord<PlayerActionsInfo> {
   }
 
  private:
+  // The codes of the types 0 to 2 count down from this one.
+  static constexpr int FIRST_BET_TYPE_CODE = -11;
+  static constexpr int BET_TYPES = 3;
+
   static constexpr char MAY_FOLD = 0x01;
   static constexpr char MAY_CHECK_FOLD = 0x02;
   static constexpr char MAY_CHECK_CALL = 0x04;
@@ -61,14 +68,19 @@ class HERALD_API PlayerActionsInfo : public ReadableRecord<PlayerActionsInfo> {
   static constexpr char MAY_BET_RAISE_ANY = 0x20;
 
   bool may(char action) const { return (actionFlags_ & action) != 0; }
-  bool checkBetType() const;
+  bool checkBetType() const {
+    if (mayBetRaise() && getBetType() == BetType::NO_VALID_TYPE) [[unlikely]]
+      throwNoBetType();
+    return true;
+  }
+  [[noreturn]] static void throwNoBetType();
 
   std::int8_t seat_ = -1;
   std::int8_t actionFlags_ = 0;
-  AmountInfo checkCallValue_;
+  Amount checkCallValue_;
   std::int8_t betTypeCode_ = -1;
   bool firstBetPlaced_ = false;
-  std::vector<AmountInfo> bets_;
+  List<Amount> bets_;
 };
 
 }  // namespace Tessel

@@ -22,7 +22,7 @@ class HERALD_API PlayerInGameInfo : public ReadableWritableRecord<PlayerInGameIn
   }
 
  private:
-  MoneyInfo moneyAtTable_;
+  MoneyAmount moneyAtTable_;
 };
 
 }  // namespace Tessel

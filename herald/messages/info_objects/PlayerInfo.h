@@ -1,5 +1,6 @@
 #pragma once
-#include <herald/messages/info_objects/TsString.h>
+#include <herald/messages/info_objects/WireRecord.h>
+#include <herald/wire/Text.h>
 
 #include <cstdint>
 
@@ -40,12 +41,12 @@ class HERALD_API PlayerInfo : public ReadableWritableRecord<PlayerInfo> {
   static constexpr int VIP_BIT = 1;
 
   std::int32_t id_ = -1;
-  TsString nickName_;
-  TsString city_;
+  Text nickName_;
+  Text city_;
   std::int32_t ping_ = -1;
   std::int32_t gameId_ = -1;
   std::int8_t flags_ = 0;
-  TsString teamName_;
+  Text teamName_;
 };
 
 }  // namespace Tessel

@@ -29,7 +29,7 @@ class HERALD_API PlayerStateInfo : public ReadableRecord<PlayerStateInfo> {
  private:
   std::int32_t seat_ = -1;
   PlayerInGameInfo player_;
-  AmountInfo betsNotInPot_;
+  Amount betsNotInPot_;
   bool sittingIn_ = false;
   bool slow_ = false;
 };

@@ -60,8 +60,8 @@ class HERALD_API PokerGameInfo : public ReadableRecord<PokerGameInfo, GameInfo>,
 
   std::int8_t gameType_ = -1;
   std::int8_t limitType_ = -1;
-  AmountInfo lowerLimit_;
-  AmountInfo upperLimit_;
+  Amount lowerLimit_;
+  Amount upperLimit_;
   std::int8_t tableFlags_ = 0;
 };
 

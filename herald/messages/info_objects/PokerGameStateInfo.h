@@ -44,13 +44,13 @@ class HERALD_API PokerGameStateInfo : public ReadableRecord<PokerGameStateInfo> 
  private:
   PokerRulesInfo rules_;
   std::int32_t dealerSeat_ = -1;
-  AmountInfo pot_;
+  Amount pot_;
   std::int32_t currentBettingRound_ = -1;
   InfoList<PlayerStateInfo> players_;
   CardsInfo cards_;
   std::int32_t handId_ = -1;
   PokerGameInfo game_;
-  AmountInfo rake_;
+  Amount rake_;
 };
 
 }  // namespace Tessel

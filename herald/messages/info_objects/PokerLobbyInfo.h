@@ -30,7 +30,7 @@ class HERALD_API PokerLobbyInfo : public ReadableRecord<PokerLobbyInfo, LobbyInf
   static void require(bool isRead, const wchar_t* failure);
 
   PokerRulesInfo rules_;
-  AmountInfo averagePot_;
+  Amount averagePot_;
   std::int32_t handsPerHour_ = -1;
   std::int32_t playersFlop_ = -1;
 };

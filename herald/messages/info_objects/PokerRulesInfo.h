@@ -1,8 +1,8 @@
 #pragma once
 #include <herald/messages/info_objects/MoneyInfo.h>
-#include <herald/messages/info_objects/TsString.h>
-
-#include <vector>
+#include <herald/messages/info_objects/WireRecord.h>
+#include <herald/platform/keystone/List.h>
+#include <herald/wire/Text.h>
 
 namespace Tessel {
 
@@ -46,21 +46,21 @@ class HERALD_API PokerRulesInfo : public ReadableRecord<PokerRulesInfo> {
   }
 
  private:
-  Money inUnit(const AmountInfo& amount) const { return {amount.getAmount(), monetaryUnitId_}; }
+  Money inUnit(const Amount& amount) const { return {amount.getAmount(), monetaryUnitId_}; }
 
-  TsString gameDescription_;
+  Text gameDescription_;
   std::int16_t monetaryUnitId_ = -1;
-  AmountInfo maxRake_;
-  AmountInfo bigBlind_;
+  Amount maxRake_;
+  Amount bigBlind_;
   std::int32_t nrChipStackValues_ = 0;
-  std::vector<AmountInfo> chipStackValues_;
-  AmountInfo minChipValue_;
-  AmountInfo ante_;
-  AmountInfo smallBlind_;
-  AmountInfo smallBet_;
-  AmountInfo bigBet_;
-  MoneyInfo tournamentBuyIn_;
-  MoneyInfo tournamentFee_;
+  List<Amount> chipStackValues_;
+  Amount minChipValue_;
+  Amount ante_;
+  Amount smallBlind_;
+  Amount smallBet_;
+  Amount bigBet_;
+  MoneyAmount tournamentBuyIn_;
+  MoneyAmount tournamentFee_;
 };
 
 }  // namespace Tessel

@@ -28,8 +28,8 @@ class HERALD_API PrivateTourBuyInFeeType : public ReadableRecord<PrivateTourBuyI
 
  private:
   std::int8_t id_ = -1;
-  AmountInfo buyIn_;
-  AmountInfo fee_;
+  Amount buyIn_;
+  Amount fee_;
 };
 
 class HERALD_API PrivateTourBuyInFeeTypeList

@@ -1,8 +1,9 @@
 #pragma once
 #include <herald/messages/info_objects/ArrayRecord.h>
 #include <herald/messages/info_objects/MoneyInfo.h>
-#include <herald/messages/info_objects/TsString.h>
+#include <herald/messages/info_objects/WireRecord.h>
 #include <herald/platform/tableau/TournamentTicket.h>
+#include <herald/wire/Text.h>
 
 // What a player who is out of a tournament has won. An index outside a list fails with `std::invalid_argument`.
 
@@ -20,7 +21,7 @@ class HERALD_API MonetaryPrizeInfo : public ReadableRecord<MonetaryPrizeInfo> {
   }
 
  private:
-  MoneyInfo prize_;
+  MoneyAmount prize_;
 };
 
 class HERALD_API MonetaryPrizeList : public ArrayRecord<MonetaryPrizeList, MonetaryPrizeInfo> {
@@ -44,7 +45,7 @@ class HERALD_API TicketPrizeInfo : public ReadableRecord<TicketPrizeInfo> {
   }
 
  private:
-  TsString description_;
+  Text description_;
 };
 
 class HERALD_API TicketPrizeList : public ArrayRecord<TicketPrizeList, TicketPrizeInfo> {

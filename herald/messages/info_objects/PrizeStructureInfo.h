@@ -32,10 +32,10 @@ class HERALD_API PrizeStructureInfo : public ReadableRecord<PrizeStructureInfo> 
   friend class PrizeStructureInfoUpdate;
 
   std::int32_t numPlayersInPayout_ = -1;
-  MoneyInfo prizePool_;
+  MoneyAmount prizePool_;
   std::int8_t prizeStructureType_ = -1;
-  MoneyInfo addedCash_;
-  MoneyInfo guaranteedCash_;
+  MoneyAmount addedCash_;
+  MoneyAmount guaranteedCash_;
 };
 
 }  // namespace Tessel

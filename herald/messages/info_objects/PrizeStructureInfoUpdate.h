@@ -26,7 +26,7 @@ class HERALD_API PrizeStructureInfoUpdate : public ReadableRecord<PrizeStructure
 
  private:
   std::int32_t numPlayersInPayout_ = -1;
-  MoneyInfo prizePool_;
+  MoneyAmount prizePool_;
 };
 
 }  // namespace Tessel

@@ -1,7 +1,8 @@
 #pragma once
 #include <herald/messages/info_objects/MoneyInfo.h>
-#include <herald/messages/info_objects/TsString.h>
+#include <herald/messages/info_objects/WireRecord.h>
 #include <herald/platform/keystone/RankedPlayer.h>
+#include <herald/wire/Text.h>
 
 #include <cstdint>
 
@@ -28,9 +29,9 @@ class HERALD_API RankedPlayerInfo : public ReadableRecord<RankedPlayerInfo> {
 
  private:
   std::int32_t playerId_ = -1;
-  TsString playerName_;
+  Text playerName_;
   std::int32_t position_ = -1;
-  MoneyInfo chipStack_;
+  MoneyAmount chipStack_;
   std::int32_t attributes_ = -1;
 };
 

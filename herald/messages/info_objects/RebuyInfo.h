@@ -36,10 +36,10 @@ class HERALD_API RebuyInfo : public ReadableRecord<RebuyInfo> {
   std::int32_t numberOfRebuys_ = -1;
   std::int64_t durationMs_ = -1;
   bool hasAddon_ = false;
-  MoneyInfo rebuy_;
-  MoneyInfo rebuyCost_;
-  MoneyInfo addon_;
-  MoneyInfo addonCost_;
+  MoneyAmount rebuy_;
+  MoneyAmount rebuyCost_;
+  MoneyAmount addon_;
+  MoneyAmount addonCost_;
 };
 
 }  // namespace Tessel

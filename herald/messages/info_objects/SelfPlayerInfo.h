@@ -1,5 +1,6 @@
 #pragma once
-#include <herald/messages/info_objects/TsString.h>
+#include <herald/messages/info_objects/WireRecord.h>
+#include <herald/wire/Text.h>
 
 #include <cstdint>
 
@@ -23,8 +24,8 @@ class HERALD_API SelfPlayerInfo : public ReadableRecord<SelfPlayerInfo> {
 
  private:
   std::int32_t id_ = -1;
-  TsString nickName_;
-  TsString city_;
+  Text nickName_;
+  Text city_;
 };
 
 }  // namespace Tessel

@@ -30,7 +30,7 @@ class HERALD_API SitDownReplyInfo : public ReadableRecord<SitDownReplyInfo> {
 
  private:
   std::int8_t status_ = -1;
-  MoneyInfo money_;
+  MoneyAmount money_;
 };
 
 }  // namespace Tessel

@@ -32,11 +32,11 @@ class HERALD_API SpecificLobbyPlayerInfo : public ReadableRecord<SpecificLobbyPl
   }
 
  private:
-  MoneyInfo largestStack_;
-  MoneyInfo averageStack_;
+  MoneyAmount largestStack_;
+  MoneyAmount averageStack_;
   std::int8_t statusInTour_ = -1;
   std::int32_t currentPosition_ = -1;
-  MoneyInfo ownChipStack_;
+  MoneyAmount ownChipStack_;
   std::int32_t userTableId_ = -1;
 };
 

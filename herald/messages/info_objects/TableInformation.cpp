@@ -13,12 +13,12 @@ TableInformation::TableInformation(const TsString& tableName, const TsString& de
                                    const Money& money6, const TsArray<Money>& amounts,
                                    const TsArray<RoundBetInfo>& rounds, int value1, int nrAmounts, int nrRounds,
                                    int value2, bool flagA, bool flagB)
-    : tableName_(tableName), gameType_(static_cast<std::int8_t>(gameType->getValue())),
+    : tableName_(tableName.getString()), gameType_(static_cast<std::int8_t>(gameType->getValue())),
       monetaryUnitId_(static_cast<std::int16_t>(monetaryUnitId)), money_{money1, money2, money3,
                                                                          money4, money5, money6},
       flagA_(flagA), flagB_(flagB), value1_(value1), nrAmounts_(nrAmounts), amounts_(amounts.begin(), amounts.end()),
-      value2_(value2), description_(description), nrRounds_(nrRounds), rounds_(rounds.begin(), rounds.end()),
-      limitType_(limitType->getValue()) {}
+      value2_(value2), description_(description.getString()), nrRounds_(nrRounds),
+      rounds_(rounds.begin(), rounds.end()), limitType_(limitType->getValue()) {}
 
 const GameType* TableInformation::getGameType() const {
   return GameTypeFactory::createGameType(static_cast<GameTypes::AllowedGameType>(gameType_));

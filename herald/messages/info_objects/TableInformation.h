@@ -1,13 +1,14 @@
 #pragma once
 #include <herald/messages/info_objects/TsString.h>
+#include <herald/platform/keystone/List.h>
 #include <herald/platform/keystone/Money.h>
 #include <herald/platform/keystone/TsArray.h>
 #include <herald/platform/tableau/GameType.h>
 #include <herald/platform/tableau/LimitType.h>
+#include <herald/wire/Text.h>
 
 #include <array>
 #include <cstdint>
-#include <vector>
 
 namespace Tessel {
 
@@ -117,7 +118,7 @@ class HERALD_API TableInformation : public ReadableRecord<TableInformation, Read
   bool finishRead();
   LimitTypes::AllowedLimitType deriveLimitType() const;
 
-  TsString tableName_;
+  Text tableName_;
   std::int8_t gameType_ = -1;
   std::int16_t monetaryUnitId_ = -1;
   std::array<TableAmount, 6> money_;
@@ -125,11 +126,11 @@ class HERALD_API TableInformation : public ReadableRecord<TableInformation, Read
   bool flagB_ = false;
   std::int32_t value1_ = -1;
   std::int32_t nrAmounts_ = 0;
-  std::vector<TableAmount> amounts_;
+  List<TableAmount> amounts_;
   std::int32_t value2_ = -1;
-  TsString description_;
+  Text description_;
   std::int32_t nrRounds_ = 0;
-  std::vector<RoundBetInfo> rounds_;
+  List<RoundBetInfo> rounds_;
   LimitTypes::AllowedLimitType limitType_ = LimitTypes::AllowedLimitType::UNKNOWN;
 };
 

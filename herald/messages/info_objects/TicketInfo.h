@@ -1,6 +1,7 @@
 #pragma once
 #include <herald/messages/info_objects/MoneyInfo.h>
-#include <herald/messages/info_objects/TsString.h>
+#include <herald/messages/info_objects/WireRecord.h>
+#include <herald/wire/Text.h>
 
 namespace Tessel {
 
@@ -23,9 +24,9 @@ class HERALD_API TicketInfo : public ReadableRecord<TicketInfo> {
   }
 
  private:
-  TsString description_;
-  MoneyInfo buyIn_;
-  MoneyInfo fee_;
+  Text description_;
+  MoneyAmount buyIn_;
+  MoneyAmount fee_;
   bool isRestricted_ = false;
 };
 

@@ -40,9 +40,9 @@ class HERALD_API TourLevelInfo : public ReadableRecord<TourLevelInfo> {
   std::int16_t newLevel_ = -1;
   std::int64_t durationMs_ = -1;
   std::int16_t numHands_ = -1;
-  MoneyInfo smallBlind_;
-  MoneyInfo bigBlind_;
-  MoneyInfo ante_;
+  MoneyAmount smallBlind_;
+  MoneyAmount bigBlind_;
+  MoneyAmount ante_;
 };
 
 }  // namespace Tessel

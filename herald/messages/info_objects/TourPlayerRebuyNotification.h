@@ -2,7 +2,8 @@
 #include <herald/messages/info_objects/MoneyInfo.h>
 #include <herald/messages/info_objects/TesselBool.h>
 #include <herald/messages/info_objects/TesselInt.h>
-#include <herald/messages/info_objects/TsString.h>
+#include <herald/messages/info_objects/WireRecord.h>
+#include <herald/wire/Text.h>
 
 namespace Tessel {
 
@@ -28,9 +29,9 @@ class HERALD_API TourPlayerRebuyNotification : public ReadableRecord<TourPlayerR
 
  private:
   TesselInt playerId_;
-  TsString playerName_;
-  MoneyInfo chipStack_;
-  MoneyInfo cost_;
+  Text playerName_;
+  MoneyAmount chipStack_;
+  MoneyAmount cost_;
   TesselBool isAddon_;
 };
 

@@ -26,8 +26,8 @@ class HERALD_API TourRebuyQuery : public ReadableRecord<TourRebuyQuery> {
 
  private:
   TesselInt tourId_;
-  MoneyInfo chips_;
-  MoneyInfo cost_;
+  MoneyAmount chips_;
+  MoneyAmount cost_;
   TesselBool isAddon_;
 };
 

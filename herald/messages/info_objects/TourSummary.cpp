@@ -40,7 +40,7 @@ TsTime TourSummary::getClientSignupTime() const { return fromMilliseconds(client
 
 std::wstring TourSummary::toDebugString() const {
   return format(
-      L"[TourSummary TourId=%d, Attributes=%s, Status=%d, ServerPort=%d, NameShort=%s,\tNameLong=%s, Description=%s, "
+      L"[TourSummary TourId=%d, Attributes=%d, Status=%d, ServerPort=%d, NameShort=%s,\tNameLong=%s, Description=%s, "
       L"GameType=%d, LimitType=%d, NumEntrants=%d, MaxNumEntrants=%d, CurrentNumPlayers=%d, MinNumEntrants=%d, "
       L"PlayersPerTable=%d, TicketInfo=%s, PrizeStructure=%s, StartingChips=%s, StartTime=%s, WebRegistrationTime=%s, "
       L"ClientRegistrationTime=%s, LevelStructure=%s, OwnerId=%d, RebuyInfo=%s, FlightInfo=%s, RegStatus=%d]",

@@ -6,7 +6,8 @@
 #include <herald/messages/info_objects/RebuyInfo.h>
 #include <herald/messages/info_objects/TicketInfo.h>
 #include <herald/messages/info_objects/TourSummaryAttributes.h>
-#include <herald/messages/info_objects/TsString.h>
+#include <herald/messages/info_objects/WireRecord.h>
+#include <herald/platform/keystone/BitMasking.h>
 #include <herald/platform/keystone/TsTime.h>
 #include <herald/platform/tableau/GameType.h>
 #include <herald/platform/tableau/LimitType.h>
@@ -14,6 +15,7 @@
 #include <herald/platform/tableau/PlayerRegistrationStatus.h>
 #include <herald/platform/tableau/TournamentStatus.h>
 #include <herald/platform/tableau/TournamentTicket.h>
+#include <herald/wire/Text.h>
 
 #include <cstdint>
 
@@ -27,18 +29,18 @@ class HERALD_API TourSummary : public ReadableRecord<TourSummary>, public LobbyN
 
   int getTournamentId() const { return tourId_; }
 
-  bool isSitAndGo() const { return attributes_.getBit(TourSummaryAttributes::SIT_AND_GO); }
+  bool isSitAndGo() const { return hasAttribute(TourSummaryAttributes::SIT_AND_GO); }
   /// Whether the survivors go on to a main event. Only then has the flight information been sent.
-  bool isFlight() const { return attributes_.getBit(TourSummaryAttributes::FLIGHT); }
+  bool isFlight() const { return hasAttribute(TourSummaryAttributes::FLIGHT); }
   /// Whether flights feed this tournament.
-  bool isMainEvent() const { return attributes_.getBit(TourSummaryAttributes::MAIN_EVENT); }
-  bool requiresPassword() const { return attributes_.getBit(TourSummaryAttributes::REQUIRES_PASSWORD); }
-  bool isLeague() const { return attributes_.getBit(TourSummaryAttributes::LEAGUE); }
+  bool isMainEvent() const { return hasAttribute(TourSummaryAttributes::MAIN_EVENT); }
+  bool requiresPassword() const { return hasAttribute(TourSummaryAttributes::REQUIRES_PASSWORD); }
+  bool isLeague() const { return hasAttribute(TourSummaryAttributes::LEAGUE); }
   /// Only then has the rebuy information been sent.
-  bool hasRebuys() const { return attributes_.getBit(TourSummaryAttributes::REBUYS); }
-  bool usesClientSignup() const { return !attributes_.getBit(TourSummaryAttributes::NO_CLIENT_SIGNUP); }
-  bool usesWebSignup() const { return !attributes_.getBit(TourSummaryAttributes::NO_WEB_SIGNUP); }
-  bool isVIP() const { return attributes_.getBit(TourSummaryAttributes::VIP); }
+  bool hasRebuys() const { return hasAttribute(TourSummaryAttributes::REBUYS); }
+  bool usesClientSignup() const { return !hasAttribute(TourSummaryAttributes::NO_CLIENT_SIGNUP); }
+  bool usesWebSignup() const { return !hasAttribute(TourSummaryAttributes::NO_WEB_SIGNUP); }
+  bool isVIP() const { return hasAttribute(TourSummaryAttributes::VIP); }
 
   const TournamentStatus& getTournamentStatus() const;
   void setCancelled();
@@ -110,13 +112,15 @@ class HERALD_API TourSummary : public ReadableRecord<TourSummary>, public LobbyN
  private:
   friend class TourSummaryUpdate;
 
+  bool hasAttribute(TourSummaryAttributes::Bit bit) const { return BitMasking::getBit(attributes_, bit); }
+
   std::int32_t tourId_ = -1;
-  TourSummaryAttributes attributes_;
+  std::int32_t attributes_ = 0;
   std::int8_t status_ = -1;
   std::int16_t serverPort_ = -1;
-  TsString nameShort_;
-  TsString nameLong_;
-  TsString description_;
+  Text nameShort_;
+  Text nameLong_;
+  Text description_;
   std::int8_t limitType_ = -1;
   std::int8_t gameType_ = -1;
   std::int32_t numEntrants_ = -1;
@@ -126,7 +130,7 @@ class HERALD_API TourSummary : public ReadableRecord<TourSummary>, public LobbyN
   std::int8_t playersPerTable_ = -1;
   TicketInfo ticketInfo_;
   PrizeStructureInfo prizeStructure_;
-  MoneyInfo startingChips_;
+  MoneyAmount startingChips_;
   // Times are in milliseconds since the beginning of 1970 UTC.
   std::int64_t startTime_ = -1;
   std::int64_t webRegistrationTime_ = -1;

@@ -1,6 +1,7 @@
 #pragma once
 #include <herald/messages/info_objects/PrizeStructureInfoUpdate.h>
 #include <herald/messages/info_objects/TourSummaryAttributes.h>
+#include <herald/platform/keystone/BitMasking.h>
 #include <herald/platform/tableau/PlayerRegistrationStatus.h>
 
 #include <cstdint>
@@ -44,10 +45,11 @@ class HERALD_API TourSummaryUpdate : public ReadableRecord<TourSummaryUpdate> {
   }
 
  private:
-  bool isFlight() const { return attributes_.getBit(TourSummaryAttributes::FLIGHT); }
+  bool hasAttribute(TourSummaryAttributes::Bit bit) const { return BitMasking::getBit(attributes_, bit); }
+  bool isFlight() const { return hasAttribute(TourSummaryAttributes::FLIGHT); }
 
   std::int32_t tourId_ = -1;
-  TourSummaryAttributes attributes_;
+  std::int32_t attributes_ = 0;
   std::int8_t status_ = -1;
   std::int32_t numEntrants_ = -1;
   std::int32_t currentNumPlayers_ = -1;

@@ -1,5 +1,6 @@
 #pragma once
-#include <herald/messages/info_objects/TsString.h>
+#include <herald/messages/info_objects/WireRecord.h>
+#include <herald/wire/Text.h>
 
 #include <cstdint>
 
@@ -38,7 +39,7 @@ class HERALD_API TournamentJoinRequest : public ReadableWritableRecord<Tournamen
   std::int32_t tournamentId_ = 0;
   std::int32_t tableId_ = 0;
   std::int8_t replyStatus_ = 0;
-  TsString password_;
+  Text password_;
 };
 
 }  // namespace Tessel

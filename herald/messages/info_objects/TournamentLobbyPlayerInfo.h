@@ -1,6 +1,7 @@
 #pragma once
 #include <herald/messages/info_objects/AmountInfo.h>
-#include <herald/messages/info_objects/TsString.h>
+#include <herald/messages/info_objects/WireRecord.h>
+#include <herald/wire/Text.h>
 
 #include <cstdint>
 
@@ -42,9 +43,9 @@ class HERALD_API TournamentLobbyPlayerInfo : public ReadableRecord<TournamentLob
 
  private:
   std::int32_t playerId_ = -1;
-  TsString nick_;
+  Text nick_;
   std::int32_t ranking_ = -1;
-  AmountInfo credits_;
+  Amount credits_;
   std::int8_t status_ = -1;
   std::int32_t tableId_ = -1;
   std::int32_t ping_ = -1;

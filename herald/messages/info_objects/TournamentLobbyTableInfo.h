@@ -1,5 +1,6 @@
 #pragma once
-#include <herald/messages/info_objects/TsString.h>
+#include <herald/messages/info_objects/WireRecord.h>
+#include <herald/wire/Text.h>
 
 #include <cstdint>
 
@@ -29,8 +30,8 @@ class HERALD_API TournamentLobbyTableInfo : public ReadableRecord<TournamentLobb
  private:
   std::int32_t tableId_ = -1;
   std::int32_t tournamentId_ = -1;
-  TsString name_;
-  TsString status_;
+  Text name_;
+  Text status_;
   std::int32_t numPlayers_ = -1;
 };
 

@@ -8,6 +8,13 @@
 
 namespace Tessel {
 
+namespace {
+
+// Three numbers of 16 bits, an empty name, and three bytes.
+constexpr std::size_t SMALLEST_NODE = 3 * sizeof(std::int16_t) + sizeof(std::uint16_t) + 3 * sizeof(std::int8_t);
+
+}  // namespace
+
 // Goes through a tree in wire order: a node, then its sub-nodes. The sub-nodes may be added while the walk stands at
 // their node.
 template <class Node>
@@ -47,8 +54,8 @@ TreeNodeInfo::TreeNodeInfo(int id, int nameId, bool isSubscribable, int port) {
 // the first node of a group has lost its sub-nodes already and holds the next group in their place.
 TreeNodeInfo::~TreeNodeInfo() {
   if (subNodes_.empty()) return;
-  std::vector<TreeNodeInfo> groups;
-  const auto add = [&groups](std::vector<TreeNodeInfo> group) {
+  List<TreeNodeInfo> groups;
+  const auto add = [&groups](List<TreeNodeInfo> group) {
     while (!group.empty()) {
       auto below = std::exchange(group.front().subNodes_, std::move(groups));
       groups = std::move(group);
@@ -92,8 +99,63 @@ const TreeNodeInfo* TreeNodeInfo::getNodeInTree(int id) const {
   return node;
 }
 
-bool TreeNodeInfo::read(ByteStream& in) {
-  const std::size_t smallestNode = minimumWireSize<OwnFields>() + sizeof(std::int8_t);
+// Reads a tree by calls, one for each level; throws `StraightReadEnded` for one that is deep or not in order.
+class TreeNodeInfo::StraightWalk {
+ public:
+  StraightWalk(ByteStream& in, MessageMemory* memory)
+      : in_(in), memory_(memory), at_(in.unread().data()), end_(at_ + in.unreadCount()) {}
+
+  void readNode(TreeNodeInfo& node, int levelsLeft) {
+    const auto left = static_cast<std::size_t>(end_ - at_);
+    if (left < SMALLEST_NODE || levelsLeft == 0) throw StraightReadEnded{0, true};
+    StraightReader<> reader(in_, memory_, at_, end_, SMALLEST_NODE);
+    OwnFields::wire(node.fields_, reader);
+    std::int8_t count = 0;
+    reader("", count);
+    at_ = reader.at();
+    --nodesToCome_;
+    if (count > 0)
+      readSubNodes(node.subNodes_, static_cast<std::size_t>(count), levelsLeft - 1);
+    else
+      node.subNodes_.clear();
+  }
+
+  void finish() { in_.skip(in_.unreadCount() - static_cast<std::size_t>(end_ - at_)); }
+
+ private:
+  void readSubNodes(List<TreeNodeInfo>& subNodes, std::size_t count, int levelsLeft) {
+    nodesToCome_ += count;
+    const auto left = static_cast<std::size_t>(end_ - at_);
+    if (nodesToCome_ > left / SMALLEST_NODE) throw StraightReadEnded{0, true};
+    makeRoom(subNodes, count, memory_, left);
+    for (std::size_t i = 0; i < count; ++i) readNode(subNodes.append(), levelsLeft);
+    subNodes.settle();
+  }
+
+  ByteStream& in_;
+  MessageMemory* memory_;
+  const std::uint8_t* at_;
+  const std::uint8_t* end_;
+  std::size_t nodesToCome_ = 1;
+};
+
+bool TreeNodeInfo::read(ByteStream& in) { return readIn(in, nullptr); }
+
+bool TreeNodeInfo::readIn(ByteStream& in, MessageMemory* memory) {
+  constexpr int MOST_LEVELS = 64;
+  const std::size_t start = in.position();
+  try {
+    StraightWalk walk(in, memory);
+    walk.readNode(*this, MOST_LEVELS);
+    walk.finish();
+  } catch (const StraightReadEnded&) {
+    in.seek(start);
+    readByTheRules(in);
+  }
+  return true;
+}
+
+void TreeNodeInfo::readByTheRules(ByteStream& in) {
   std::size_t nodesToCome = 1;
   Walk<TreeNodeInfo> walk(*this);
   while (TreeNodeInfo* node = walk.next()) {
@@ -105,11 +167,10 @@ bool TreeNodeInfo::read(ByteStream& in) {
     if (count <= 0) continue;
     nodesToCome += static_cast<std::size_t>(count);
     // Nodes that promise more sub-nodes than the bytes can hold, one below the other, must not cost memory.
-    if (nodesToCome > in.unreadCount() / smallestNode)
+    if (nodesToCome > in.unreadCount() / SMALLEST_NODE)
       throwCountPastEnd(static_cast<std::int64_t>(nodesToCome), in.unreadCount());
     node->subNodes_.resize(static_cast<std::size_t>(count));
   }
-  return true;
 }
 
 ReadableObjectInfo* TreeNodeInfo::clone() const { return new TreeNodeInfo(*this); }

@@ -1,8 +1,9 @@
 #pragma once
-#include <herald/messages/info_objects/TsString.h>
+#include <herald/messages/info_objects/WireRecord.h>
+#include <herald/platform/keystone/List.h>
+#include <herald/wire/Text.h>
 
 #include <cstdint>
-#include <vector>
 
 namespace Tessel {
 
@@ -42,6 +43,8 @@ class HERALD_API TreeNodeInfo : public ReadableInfo {
   const TreeNodeInfo* getNodeInTree(int id) const;
 
   bool read(ByteStream& in) override;
+  /// The same; a tree that is in order and not deep lies in `memory` where that is not null.
+  bool readIn(ByteStream& in, MessageMemory* memory);
   ReadableObjectInfo* clone() const override;
   std::wstring toDebugString() const override;
   int size() const override;
@@ -59,7 +62,7 @@ class HERALD_API TreeNodeInfo : public ReadableInfo {
 
   // What a node holds beside its sub-nodes.
   struct OwnFields {
-    TsString defaultName;
+    Text defaultName;
     std::int16_t id = -1;
     std::int16_t nameId = DUMMY_NAME_ID;
     std::int16_t port = -1;
@@ -79,11 +82,14 @@ class HERALD_API TreeNodeInfo : public ReadableInfo {
 
   template <class Node>
   class Walk;
+  class StraightWalk;
+
+  void readByTheRules(ByteStream& in);
 
   bool hasNodeType(int bit) const;
 
   OwnFields fields_;
-  std::vector<TreeNodeInfo> subNodes_;
+  List<TreeNodeInfo> subNodes_;
 };
 
 }  // namespace Tessel

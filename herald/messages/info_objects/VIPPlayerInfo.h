@@ -1,6 +1,7 @@
 #pragma once
-#include <herald/messages/info_objects/TsString.h>
+#include <herald/messages/info_objects/WireRecord.h>
 #include <herald/platform/keystone/TsArray.h>
+#include <herald/wire/Text.h>
 
 #include <cstdint>
 
@@ -46,7 +47,7 @@ class HERALD_API VIPPlayerInfo : public ReadableRecord<VIPPlayerInfo> {
   std::int8_t gameKind_ = -1;
   std::int32_t gameId_ = -1;
   std::int32_t vipType_ = 0;
-  TsString vipName_;
+  Text vipName_;
   std::int32_t vipStatus_ = -1;
 };
 

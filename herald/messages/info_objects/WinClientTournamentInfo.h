@@ -1,9 +1,10 @@
 #pragma once
 #include <herald/messages/info_objects/MoneyInfo.h>
-#include <herald/messages/info_objects/TsString.h>
+#include <herald/messages/info_objects/WireRecord.h>
 #include <herald/platform/keystone/TsArray.h>
 #include <herald/platform/tableau/GameType.h>
 #include <herald/platform/tableau/LimitType.h>
+#include <herald/wire/Text.h>
 
 #include <cstdint>
 
@@ -62,10 +63,10 @@ class HERALD_API WinClientTournamentInfo : public ReadableRecord<WinClientTourna
  private:
   // The money as it travels.
   struct TravelledMoney {
-    MoneyInfo buyIn{Money()};
-    MoneyInfo fee{Money()};
-    MoneyInfo prizePool{Money()};
-    MoneyInfo startingChips{Money()};
+    MoneyAmount buyIn{Money()};
+    MoneyAmount fee{Money()};
+    MoneyAmount prizePool{Money()};
+    MoneyAmount startingChips{Money()};
   };
 
   bool takeMoney();
@@ -82,10 +83,10 @@ class HERALD_API WinClientTournamentInfo : public ReadableRecord<WinClientTourna
   std::int8_t tournamentType_ = -1;
   std::int8_t gameType_ = -1;
   std::int8_t limitType_ = -1;
-  TsString name_;
-  TsString description_;
+  Text name_;
+  Text description_;
   std::int8_t playerStatus_ = -1;
-  TsArray<AmountInfo> bigBlinds_;
+  TsArray<Amount> bigBlinds_;
 };
 
 }  // namespace Tessel

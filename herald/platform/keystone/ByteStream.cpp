@@ -15,25 +15,6 @@ constexpr std::size_t SMALLEST_CAPACITY = 64;
 
 ByteStream::ByteStream(const ByteStream& other) : ByteStream(other.bytes()) { position_ = other.position_; }
 
-void ByteStream::SetAt(int index, char value) {
-  if (index < 0 || index >= GetSize())
-    throw OutOfBoundsException(FILE_NAME, __LINE__, L"index", 0, GetSize() - 1, index);
-  if (isView()) grow(0);
-  own_[static_cast<std::size_t>(index)] = static_cast<std::uint8_t>(value);
-}
-
-void ByteStream::truncate(std::size_t size) {
-  if (size >= size_) return;
-  if (!isView()) room_ += size_ - size;
-  size_ = size;
-  position_ = std::min(position_, size);
-}
-
-void ByteStream::clear() {
-  if (isView()) *this = ByteStream();
-  truncate(0);
-}
-
 void ByteStream::grow(std::size_t count) {
   const std::size_t capacity = std::max({size_ + count, 2 * size_, SMALLEST_CAPACITY});
   std::unique_ptr<std::uint8_t[]> bytes(new std::uint8_t[capacity]);  // not filled with zeros first
@@ -47,6 +28,10 @@ void ByteStream::throwPastEnd(std::size_t count) const {
   throw KeystoneException(FILE_NAME, __LINE__,
                           L"The stream ends: " + std::to_wstring(count) + L" bytes wanted at offset "
                               + std::to_wstring(position_) + L", " + std::to_wstring(unreadCount()) + L" left.");
+}
+
+void ByteStream::throwNoSuchIndex(int index) const {
+  throw OutOfBoundsException(FILE_NAME, __LINE__, L"index", 0, GetSize() - 1, index);
 }
 
 }  // namespace Tessel

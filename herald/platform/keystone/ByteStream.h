@@ -95,7 +95,12 @@ class HERALD_API ByteStream {
   /// The number of bytes held, read or not.
   int GetSize() const { return static_cast<int>(size_); }
   /// Overwrites the byte at an index from 0 to `GetSize()` - 1; another index throws `OutOfBoundsException`.
-  void SetAt(int index, char value);
+  void SetAt(int index, char value) {
+    if (index < 0 || index >= GetSize()) [[unlikely]]
+      throwNoSuchIndex(index);
+    if (isView()) grow(0);
+    own_[static_cast<std::size_t>(index)] = static_cast<std::uint8_t>(value);
+  }
   /// True when no unread byte is left.
   bool eos() const { return position_ == size_; }
 
@@ -103,6 +108,15 @@ class HERALD_API ByteStream {
   std::span<const std::uint8_t> bytes() const { return {begin_, size_}; }
   std::span<const std::uint8_t> unread() const { return {begin_ + position_, unreadCount()}; }
   std::size_t unreadCount() const { return size_ - position_; }
+
+  /// The read position, from 0 to the number of bytes held.
+  std::size_t position() const { return position_; }
+  /// Moves it; a position behind the end throws `KeystoneException`.
+  void seek(std::size_t position) {
+    if (position > size_) [[unlikely]]
+      throwPastEnd(position - position_);
+    position_ = position;
+  }
 
   /// Appends the bytes, which are not this stream's, as they are.
   void append(std::span<const std::uint8_t> bytes) {
@@ -123,9 +137,17 @@ class HERALD_API ByteStream {
     position_ += count;
   }
   /// Drops all bytes behind the first `size`; a larger size changes nothing.
-  void truncate(std::size_t size);
+  void truncate(std::size_t size) {
+    if (size >= size_) return;
+    if (!isView()) room_ += size_ - size;
+    size_ = size;
+    if (position_ > size) position_ = size;
+  }
   /// Empties the stream and keeps its memory for the next use.
-  void clear();
+  void clear() {
+    if (isView()) *this = ByteStream();
+    truncate(0);
+  }
 
  private:
   template <std::unsigned_integral T>
@@ -145,6 +167,7 @@ class HERALD_API ByteStream {
   /// Makes room for that many more bytes in memory of the stream's own.
   void grow(std::size_t count);
   [[noreturn]] void throwPastEnd(std::size_t count) const;
+  [[noreturn]] void throwNoSuchIndex(int index) const;
 
   std::unique_ptr<std::uint8_t[]> own_;
   const std::uint8_t* begin_ = nullptr;  // in own_, or the caller's

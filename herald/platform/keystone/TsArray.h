@@ -1,4 +1,6 @@
 #pragma once
+#include <herald/platform/keystone/List.h>
+
 #include <initializer_list>
 #include <stdexcept>
 #include <utility>
@@ -16,7 +18,8 @@ class TsArray {
   TsArray() = default;
   explicit TsArray(int size) : items_(checkedSize(size)) {}
   TsArray(std::initializer_list<T> items) : items_(items) {}
-  explicit TsArray(std::vector<T> items) : items_(std::move(items)) {}
+  explicit TsArray(const std::vector<T>& items) : items_(items.begin(), items.end()) {}
+  explicit TsArray(List<T> items) : items_(std::move(items)) {}
   template <class Iterator>
   TsArray(Iterator first, Iterator last) : items_(first, last) {}
   TsArray(const TsArray&) = default;
@@ -37,6 +40,9 @@ class TsArray {
   void setSize(int size) { items_.resize(checkedSize(size)); }
   void clear() { items_.clear(); }
 
+  List<T>& items() { return items_; }
+  const List<T>& items() const { return items_; }
+
   auto begin() const { return items_.begin(); }
   auto begin() { return items_.begin(); }
   auto end() const { return items_.end(); }
@@ -54,7 +60,7 @@ class TsArray {
     return static_cast<std::size_t>(index);
   }
 
-  std::vector<T> items_;
+  List<T> items_;
 };
 
 }  // namespace Tessel

@@ -76,13 +76,20 @@ char32_t takeWide(std::wstring_view text, std::size_t& i) {
   return c > HIGHEST ? REPLACEMENT : c;
 }
 
-// Eight bytes at a time while none has its top bit set.
+constexpr std::size_t WORD = sizeof(std::uint64_t);
+constexpr std::uint64_t TOP_BITS = 0x8080808080808080u;
+
+std::uint64_t wordAt(const char* bytes) {
+  std::uint64_t word;
+  std::memcpy(&word, bytes, WORD);
+  return word;
+}
+
+// A word at a time while none has its top bit set.
 std::size_t asciiPrefix(std::string_view bytes) {
   std::size_t i = 0;
-  for (; i + 8 <= bytes.size(); i += 8) {
-    std::uint64_t eight;
-    std::memcpy(&eight, bytes.data() + i, 8);
-    if ((eight & 0x8080808080808080u) != 0) return i;
+  for (; i + WORD <= bytes.size(); i += WORD) {
+    if ((wordAt(bytes.data() + i) & TOP_BITS) != 0) return i;
   }
   while (i < bytes.size() && static_cast<unsigned char>(bytes[i]) < 0x80) ++i;
   return i;
@@ -90,7 +97,15 @@ std::size_t asciiPrefix(std::string_view bytes) {
 
 }  // namespace
 
-bool UTFEncoder::isValid(std::string_view utf8) {
+bool UTFEncoder::isAscii(std::string_view bytes) {
+  if (bytes.size() < WORD) return asciiPrefix(bytes) == bytes.size();
+  // The last word may overlap the one before it.
+  std::uint64_t all = wordAt(bytes.data() + bytes.size() - WORD);
+  for (std::size_t i = 0; i + WORD < bytes.size(); i += WORD) all |= wordAt(bytes.data() + i);
+  return (all & TOP_BITS) == 0;
+}
+
+bool UTFEncoder::isValidBeyondAscii(std::string_view utf8) {
   for (utf8.remove_prefix(asciiPrefix(utf8)); !utf8.empty(); utf8.remove_prefix(asciiPrefix(utf8))) {
     const Decoded next = decodeOne(utf8);
     if (next.length == 0 || isSurrogate(next.codePoint)) return false;

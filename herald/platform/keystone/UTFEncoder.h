@@ -29,13 +29,19 @@ class HERALD_API UTFEncoder {
   /// The count of UTF-8 bytes, without the two of the count that travels before them.
   static int getTsUTF8EncodedLength(std::wstring_view text);
 
-  static bool isValid(std::string_view utf8);
+  static bool isValid(std::string_view utf8) { return isAscii(utf8) || isValidBeyondAscii(utf8); }
+  /// Whether a text can travel: it is valid, and not too long.
+  static bool isEncodable(std::string_view utf8) { return utf8.size() <= MAX_ENCODED_LENGTH && isValid(utf8); }
 
   /// A lone surrogate becomes the three bytes that UTF-8 would give its number: `toWide` gives it back, `isValid` and
   /// the encoder refuse it.
   static std::string toUTF8(std::wstring_view text);
   /// Bytes that are not UTF-8 become U+FFFD.
   static std::wstring toWide(std::string_view utf8);
+
+ private:
+  static bool isAscii(std::string_view bytes);
+  static bool isValidBeyondAscii(std::string_view utf8);
 };
 
 }  // namespace Tessel
