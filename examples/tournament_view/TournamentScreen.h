@@ -1,6 +1,6 @@
 #pragma once
 #include <herald/SpecificTournamentModel/SpecificTournamentModel.h>
-#include <herald/mailboxes/MailBoxOperations.h>
+#include <herald/mailboxes/MailBox.h>
 
 #include <array>
 #include <ostream>

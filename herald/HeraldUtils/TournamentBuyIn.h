@@ -8,7 +8,7 @@ namespace Tessel {
 /// What it costs to enter a tournament, in the user's language.
 class HERALD_API TournamentBuyIn {
  public:
-  static const int INVALID_BUYIN = -1;
+  static constexpr int INVALID_BUYIN = -1;
 
   TournamentBuyIn() = default;
   TournamentBuyIn(const Money& buyIn, const Money& fee) : buyIn_(buyIn), fee_(fee) {}

@@ -1,8 +1,10 @@
 #pragma once
 #include <herald/mailboxes/MessageQueue.h>
+#include <herald/platform/keystone/BugReporter.h>
 #include <herald/platform/keystone/PostOffice.h>
 
 #include <atomic>
+#include <cstddef>
 #include <memory>
 #include <mutex>
 #include <thread>
@@ -15,6 +17,7 @@ namespace Tessel {
 /// is the base class of a message family. Every operation is safe from any thread and holds the mailbox's lock for its
 /// whole work, the call into the post office included; that lock is recursive, so the post office may call back into
 /// the mailbox. What the post office throws is reported to `BugReporter`; the message is in, or out, all the same.
+/// An application that has a message family of its own uses `MailBox<ItsFamily, 1>`.
 template <class T, int>
 class HERALD_API MailBox {
  public:
@@ -109,6 +112,38 @@ inline T* MailBox<T, N>::takeOldest() {
   T* const message = queue_.pop();
   tell(&PostOffice::pickup);
   return message;
+}
+
+template <class T, int N>
+MailBox<T, N>::~MailBox() {
+  locked([&] {
+    const CallingOut messageDestructors(*this);
+    while (!queue_.isEmpty()) {
+      std::unique_ptr<T>(queue_.pop()).reset();
+      tell(&PostOffice::pickup);
+    }
+  });
+}
+
+template <class T, int N>
+std::vector<std::unique_ptr<T>> MailBox<T, N>::pickupAll() {
+  return locked([&] {
+    std::vector<std::unique_ptr<T>> messages;
+    messages.reserve(static_cast<std::size_t>(queue_.size()));
+    // What the post office posts meanwhile stays: the list never has to grow with a message in hand.
+    while (messages.size() < messages.capacity() && !queue_.isEmpty()) messages.emplace_back(takeOldest());
+    return messages;
+  });
+}
+
+template <class T, int N>
+void MailBox<T, N>::callOut(void (PostOffice::*event)()) {
+  const CallingOut callingOut(*this);
+  try {
+    (postOffice_->*event)();
+  } catch (...) {
+    reportCurrentException(L"mailboxes/MailBox");
+  }
 }
 
 }  // namespace Tessel

@@ -1,4 +1,3 @@
-#include <herald/mailboxes/MailBoxOperations.h>
 #include <herald/mailboxes/MailBoxes.h>
 
 namespace Tessel {

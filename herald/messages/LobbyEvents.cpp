@@ -7,6 +7,9 @@ void TreeReplyUpdate::handle(AbstractClientMessageHandler& handler) const { hand
 
 std::wstring TreeReplyUpdate::toDebugString() const { return L"[TreeReplyUpdate]"; }
 
+// Its own `read` keeps the table of messages from instantiating this one's.
+template class RecordMessage<UnSubscribeNode, SubscriptionInfo, ReadResult::ALWAYS_TRUE>;
+
 bool UnSubscribeNode::read(ByteStream& in) {
   RecordMessage::read(in);
   setNodeId(body().getNodeId());
