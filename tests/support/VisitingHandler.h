@@ -9,9 +9,7 @@
 namespace Tessel {
 
 template <class... Messages>
-struct ClassList {
-  static constexpr std::size_t SIZE = sizeof...(Messages);
-};
+struct ClassList {};
 
 /// The parameter classes of the handler operations, in the order of their declaration.
 using HandledClasses = ClassList<
@@ -53,7 +51,15 @@ class VisitingHandlerOf<Visitor, ClassList<>> : public DefaultClientMessageHandl
   Visitor visit;
 };
 
-// Eight operations a level: the compiler's time grows with the square of the levels.
+template <class Visitor, class A, class... Rest>
+class VisitingHandlerOf<Visitor, ClassList<A, Rest...>> : public VisitingHandlerOf<Visitor, ClassList<Rest...>> {
+ public:
+  using VisitingHandlerOf<Visitor, ClassList<Rest...>>::VisitingHandlerOf;
+  using VisitingHandlerOf<Visitor, ClassList<Rest...>>::handle;
+  void handle(const A& message) override { this->visit(message); }
+};
+
+// Eight operations a level while there are eight: the compiler's time grows with the square of the levels.
 template <class Visitor, class A, class B, class C, class D, class E, class F, class G, class H, class... Rest>
 class VisitingHandlerOf<Visitor, ClassList<A, B, C, D, E, F, G, H, Rest...>>
     : public VisitingHandlerOf<Visitor, ClassList<Rest...>> {
