@@ -14,7 +14,7 @@ function(herald_project_target target)
       target_compile_options(${target} PRIVATE -Wno-restrict)
     endif()
   endif()
-  set_target_properties(${target} PROPERTIES COMPILE_WARNING_AS_ERROR ${HERALD_WERROR})
+  set_target_properties(${target} PROPERTIES COMPILE_WARNING_AS_ERROR "${HERALD_WERROR}")
 endfunction()
 
 # A program of this project, which uses the library.
