@@ -128,7 +128,7 @@ template <class Row>
 std::string printMessages(std::string_view heading, std::span<const Row> rows, Reached& reached) {
   std::string text = "\n" + std::string(heading) + "\n";
   for (const Row& row : rows) {
-    text += "\n" + std::to_string(row.id) + " ";
+    text += '\n' + std::to_string(row.id) + ' ';
     if (row.create == nullptr) {
       text += "(creates no message)\n";
       continue;

@@ -45,7 +45,7 @@ class ListingSink final : public FieldSink {
 
   void add(std::string_view name, FieldKind kind, WireType type, std::string value) {
     OpenField& parent = open_.back();
-    std::string ownName = name.empty() ? "[" + std::to_string(parent.count) + "]" : std::string(name);
+    std::string ownName = name.empty() ? '[' + std::to_string(parent.count) + ']' : std::string(name);
     ++parent.count;
     fields_.push_back({std::move(ownName), kind, type, std::move(value), parent.index});
   }
