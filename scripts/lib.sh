@@ -65,6 +65,17 @@ configure() {
   }
 }
 
+# cmake_consumer FOLDER [OPTION...]: builds the small project that uses Herald; quiet unless it fails.
+cmake_consumer() {
+  local folder=$1 said
+  shift
+  said=$({ cmake -S tests/consumer -B "$folder" -G Ninja -DCMAKE_BUILD_TYPE=Release "$@" &&
+    cmake --build "$folder"; } 2>&1) || {
+    printf '%s\n' "$said" >&2
+    fail "the consumer could not be built in $folder"
+  }
+}
+
 # build PRESET [TARGET...]: configures and builds; prints what the compiler says, and on a terminal the progress.
 build() {
   local preset=$1 target_options=() ninja_options=()
