@@ -227,7 +227,8 @@ TEST(WinClientTournamentInfo, HasItsBigBlindsInTheUnitOfTheStartingChipsAndItsTy
   for (const int outside : {-1, 2}) EXPECT_THROW(info.bigBlind(outside), std::invalid_argument);
 
   EXPECT_EQ(told(info.getTournamentId(), info.getNrOfEnrolled(), info.getEntryLevel(), info.getNrOfWinners(),
-                 info.getTournamentType(), info.getPlayerStatus(), info.getName(), info.getDescription()),
+                 static_cast<std::int8_t>(info.getTournamentType()), static_cast<std::int8_t>(info.getPlayerStatus()),
+                 info.getName(), info.getDescription()),
             "-3121 3122 3123 -3124 -5 -6 Årets final Beschreibung");
 
   const WinClientTournamentInfo fresh;

@@ -13,8 +13,9 @@ class HERALD_API TesselByte : public ReadableWritableRecord<TesselByte> {
   TesselByte() = default;
   TesselByte(char value) : value_(static_cast<std::int8_t>(value)) {}
 
+  /// Where plain char is unsigned, as on ARM, a negative value comes as 256 more than it is.
   char getValue() const { return static_cast<char>(value_); }
-  /// The value sign-extended, also where plain char is unsigned.
+  /// The value sign-extended on every machine.
   int getIntValue() const { return value_; }
   void setValue(char value) { value_ = static_cast<std::int8_t>(value); }
 

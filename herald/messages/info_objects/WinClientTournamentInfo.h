@@ -21,7 +21,7 @@ class HERALD_API WinClientTournamentInfo : public ReadableRecord<WinClientTourna
   int getEntryLevel() const { return entryLevel_; }
   int getNrOfWinners() const { return nrOfWinners_; }
   Money getStartingChips() const { return startingChips_; }
-  /// Its values are the server's.
+  /// Its values are the server's. Where plain char is unsigned, as on ARM, a negative one comes as 256 more than it is.
   char getTournamentType() const { return static_cast<char>(tournamentType_); }
   /// Never null.
   const GameType* getGameType() const;
@@ -29,7 +29,7 @@ class HERALD_API WinClientTournamentInfo : public ReadableRecord<WinClientTourna
   const LimitType* getLimitType() const;
   std::wstring getName() const { return name_.getString(); }
   std::wstring getDescription() const { return description_.getString(); }
-  /// Its values are the server's.
+  /// Its values are the server's. Where plain char is unsigned, as on ARM, a negative one comes as 256 more than it is.
   char getPlayerStatus() const { return static_cast<char>(playerStatus_); }
 
   int numberOfBigBlinds() const { return bigBlinds_.size(); }
