@@ -1,5 +1,9 @@
 #pragma once
 
+#if (defined(_MSVC_LANG) ? _MSVC_LANG : __cplusplus) <= 201703L
+#error "Herald needs C++20: compile with -std=c++20, or /std:c++20"
+#endif
+
 // HERALD_API marks what the shared library exports. A static build defines HERALD_STATIC for itself and its users.
 #if defined(HERALD_STATIC)
 #define HERALD_API
