@@ -188,6 +188,7 @@
 #include <herald/platform/keystone/Exceptions.h>
 #include <herald/platform/keystone/Export.h>
 #include <herald/platform/keystone/Format.h>
+#include <herald/platform/keystone/List.h>
 #include <herald/platform/keystone/MVCModel.h>
 #include <herald/platform/keystone/Money.h>
 #include <herald/platform/keystone/MoneyLimit.h>
@@ -232,4 +233,6 @@
 #include <herald/platform/tableau/TournamentTicket.h>
 #include <herald/platform/tableau/TournamentType.h>
 #include <herald/wire/FieldSink.h>
+#include <herald/wire/MessageMemory.h>
+#include <herald/wire/Text.h>
 #include <herald/wire/WireTypes.h>

@@ -1,6 +1,7 @@
 #include <herald/messages/ImprovedServerMessage.h>
 #include <herald/messages/RequestFrame.h>
 #include <herald/platform/keystone/Exceptions.h>
+#include <herald/wire/WireWriter.h>
 
 namespace Tessel {
 
@@ -9,11 +10,30 @@ UnwritableBody::UnwritableBody()
 
 ImprovedServerMessage::~ImprovedServerMessage() = default;
 
+// With place for the size, which is not known yet.
+inline void ImprovedServerMessage::writeHeader(ByteStream& out) const {
+  WireWriter header(out.prepare(FRAME_HEADER_SIZE));
+  header("id", std::int16_t{getPacketDescriptor()});
+  header("size", std::int16_t{-1});
+  out.commit(FRAME_HEADER_SIZE);
+  sizePosition_ = out.GetSize() - static_cast<int>(sizeof(std::int16_t));
+}
+
+inline bool ImprovedServerMessage::writeSize(ByteStream& out) const {
+  const int size = out.GetSize() - sizePosition_ - static_cast<int>(sizeof(std::int16_t));
+  if (static_cast<std::size_t>(size) > MAX_BODY_SIZE) {
+    reportBodyTooLong(static_cast<std::size_t>(size));
+    return false;
+  }
+  out.SetAt(sizePosition_, static_cast<char>(size >> 8));
+  out.SetAt(sizePosition_ + 1, static_cast<char>(size));
+  return true;
+}
+
 bool ImprovedServerMessage::write(ByteStream& out) const {
   FrameGuard frame(out);
   try {
-    writePacketDescriptor(out);
-    reservePlaceForSize(out);
+    writeHeader(out);
     writeBody(out);
   } catch (const UnwritableBody&) {
     return false;
@@ -22,24 +42,6 @@ bool ImprovedServerMessage::write(ByteStream& out) const {
     return false;
   }
   return writeSize(out) && frame.complete();
-}
-
-void ImprovedServerMessage::writePacketDescriptor(ByteStream& out) const { out << getPacketDescriptor(); }
-
-void ImprovedServerMessage::reservePlaceForSize(ByteStream& out) const {
-  sizePosition_ = out.GetSize();
-  out << std::int16_t{-1};
-}
-
-bool ImprovedServerMessage::writeSize(ByteStream& out) const {
-  const int size = out.GetSize() - sizePosition_ - 2;
-  if (static_cast<std::size_t>(size) > MAX_BODY_SIZE) {
-    reportBodyTooLong(static_cast<std::size_t>(size));
-    return false;
-  }
-  out.SetAt(sizePosition_, static_cast<char>(size >> 8));
-  out.SetAt(sizePosition_ + 1, static_cast<char>(size));
-  return true;
 }
 
 }  // namespace Tessel

@@ -17,8 +17,7 @@ class HERALD_API ImprovedServerMessage : public ServerMessage {
   virtual short getPacketDescriptor() const = 0;
 
  private:
-  void writePacketDescriptor(ByteStream& out) const;
-  void reservePlaceForSize(ByteStream& out) const;
+  void writeHeader(ByteStream& out) const;
   bool writeSize(ByteStream& out) const;
 
   mutable int sizePosition_ = -1;

@@ -8,19 +8,19 @@ namespace Tessel {
 
 /// Appends the frame around a layout: all of it, or nothing.
 template <class Layout>
-bool writeFrame(short id, const Layout& layout, ByteStream& out) {
+inline bool writeFrame(short id, const Layout& layout, ByteStream& out) {
   WireSizer sizer;
   sizer("body", layout);
   if (sizer.size() > MAX_BODY_SIZE) [[unlikely]] {
     reportBodyTooLong(sizer.size());
     return false;
   }
-  const std::size_t before = out.bytes().size();
-  WireWriter writer(out.extend(FRAME_HEADER_SIZE + sizer.size() + WireWriter::SLACK));
+  const std::size_t size = FRAME_HEADER_SIZE + sizer.size();
+  WireWriter writer(out.prepare(size + WireWriter::SLACK));
   writer("id", std::int16_t{id});
   writer("size", static_cast<std::int16_t>(sizer.size()));
   writer("body", layout);
-  out.truncate(writer.succeeded() ? before + FRAME_HEADER_SIZE + sizer.size() : before);
+  if (writer.succeeded()) out.commit(size);
   return writer.succeeded();
 }
 

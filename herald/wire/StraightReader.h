@@ -186,10 +186,11 @@ class StraightReader {
   HERALD_IN_LINE void onRead(Self& self, Rule rule) {
     begin();
     heldOutside_ = true;
-    putBack(at_);  // where the stream stands when the rule throws
-    const bool goesOn = (self.*rule)();
+    if (!appliesTo(self, rule)) {
+      done();
+      fail();
+    }
     done();
-    if (!goesOn) fail();
   }
 
   HERALD_IN_LINE void requireMore() {
@@ -273,7 +274,7 @@ class StraightReader {
     if (left < size + promised_) [[unlikely]]
       giveUp();
     const bool isTaken = size <= Text::MAX_SHORT && left > Text::MAX_SHORT && text.takeShortAscii(bytes, size);
-    if (!isTaken && !takeText(text, bytes, size, memory_)) giveUp();
+    if (!isTaken && !takeText(text, bytes, size, memory_, left - size)) giveUp();
     at_ = bytes + size;
     done();
     return true;
@@ -281,10 +282,10 @@ class StraightReader {
 
   // False for bytes that are no text; the text stays as it was.
   HERALD_OUT_OF_LINE static bool takeText(Text& text, const std::uint8_t* bytes, std::size_t size,
-                                          MessageMemory* memory) {
+                                          MessageMemory* memory, std::size_t bytesToCome) {
     const std::string_view utf8(reinterpret_cast<const char*>(bytes), size);
     if (!UTFEncoder::isValid(utf8)) return false;
-    text.take(utf8, memory);
+    text.take(utf8, memory, bytesToCome);
     return true;
   }
 
@@ -320,6 +321,16 @@ class StraightReader {
     bool heldOutside;
   };
 
+  template <class Self, class Rule>
+  HERALD_IN_LINE bool appliesTo(Self& self, Rule rule) {
+    try {
+      return (self.*rule)();
+    } catch (...) {
+      putBack(at_);
+      throw;
+    }
+  }
+
   template <class Items>
   HERALD_IN_LINE void readItems(Items& list, std::int64_t count) {
     if (count > 0) {
@@ -343,6 +354,11 @@ class StraightReader {
     auto& list = storageOf(items);
     makeRoom(list, count, memory, left - count * smallest);
     bool heldOutside = false;
+    if constexpr (WireNumber<Item>) {
+      for (std::size_t i = 0; i < count; ++i, at += sizeof(Item)) append(list) = numberAt<Item>(at);
+      settle(list, false);
+      return {at, false};
+    }
     for (std::size_t i = 0; i < count; ++i) {
       StraightReader<true> reader(in, memory, at, end, smallest, {whenItEnds.fieldsRead, whenItEnds.at});
       reader.want(smallest);

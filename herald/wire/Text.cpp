@@ -22,14 +22,14 @@ std::wstring Text::getString() const { return UTFEncoder::toWide(getUTF8()); }
 
 void Text::setString(std::wstring_view text) { assign(UTFEncoder::toUTF8(text)); }
 
-void Text::take(std::string_view utf8, MessageMemory* memory) {
+void Text::take(std::string_view utf8, MessageMemory* memory, std::size_t bytesToCome) {
   if (utf8.size() > std::numeric_limits<std::uint32_t>::max()) throw std::bad_alloc();
   Text taken;
   if (utf8.size() <= MAX_SHORT) {
     std::memcpy(taken.bytes_.data(), utf8.data(), utf8.size());
     taken.setKind(static_cast<std::uint8_t>(utf8.size()));
   } else {
-    void* const place = memory != nullptr ? memory->take(utf8.size(), 0) : ::operator new(utf8.size());
+    void* const place = memory != nullptr ? memory->take(utf8.size(), bytesToCome) : ::operator new(utf8.size());
     const Long text{static_cast<char*>(place), static_cast<std::uint32_t>(utf8.size())};
     std::memcpy(text.bytes, utf8.data(), text.size);
     std::memcpy(taken.bytes_.data(), &text, sizeof(text));

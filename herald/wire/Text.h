@@ -86,8 +86,9 @@ class HERALD_API Text {
     return kind();
   }
 
-  /// Takes bytes that are valid UTF-8, at most 65,535; into `memory` where it is not null and they are many.
-  void take(std::string_view utf8, MessageMemory* memory);
+  /// Takes bytes that are valid UTF-8; into `memory` where it is not null and they are many. `bytesToCome` are behind
+  /// them.
+  void take(std::string_view utf8, MessageMemory* memory, std::size_t bytesToCome);
 
  private:
   using Bytes = std::array<char, 24>;
@@ -131,10 +132,10 @@ class HERALD_API Text {
     return text;
   }
 
-  void assign(std::string_view utf8) { take(utf8, nullptr); }
+  void assign(std::string_view utf8) { take(utf8, nullptr, 0); }
   void release() noexcept;
 
-  alignas(std::uint64_t) Bytes bytes_{};
+  Bytes bytes_{};
 };
 
 }  // namespace Tessel

@@ -9,7 +9,7 @@ bool WireReader::readText(Text& text) {
   try {
     std::string utf8;
     UTFEncoder::decodeFromTsUTF8(in_, utf8);
-    text.take(utf8, nullptr);
+    text.take(utf8, nullptr, 0);
     return true;
   } catch (const KeystoneException& failure) {
     failure.report();

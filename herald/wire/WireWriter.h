@@ -63,7 +63,7 @@ class WireWriter : public LayoutVisitor<WireWriter> {
   template <WireText T>
   void longText(const T& value) {
     const std::string_view utf8 = value.getUTF8();
-    if (!UTFEncoder::isEncodable(utf8)) {
+    if (!UTFEncoder::copyEncodable(utf8, to_ + sizeof(std::uint16_t))) {
       if constexpr (std::same_as<T, Text>) {
         reportUnwritable(value);
       } else {
@@ -74,7 +74,6 @@ class WireWriter : public LayoutVisitor<WireWriter> {
       return;
     }
     number(static_cast<std::int16_t>(static_cast<std::uint16_t>(utf8.size())));
-    std::memcpy(to_, utf8.data(), utf8.size());
     to_ += utf8.size();
   }
 

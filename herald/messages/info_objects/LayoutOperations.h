@@ -36,35 +36,34 @@ HERALD_FLATTEN inline bool readFields(ByteStream& in, MessageMemory* memory, std
 }
 
 template <class Layout>
-bool readLayout(Layout& layout, ByteStream& in, MessageMemory* memory = nullptr) {
+inline bool readLayout(Layout& layout, ByteStream& in, MessageMemory* memory = nullptr) {
   return readFields(in, memory, minimumWireSize<Layout>(), [&](auto& fields) { Layout::wire(layout, fields); });
 }
 
 template <class Layout>
-std::size_t wireSizeOf(const Layout& layout) {
+inline std::size_t wireSizeOf(const Layout& layout) {
   WireSizer sizer;
   Layout::wire(layout, sizer);
   return sizer.size();
 }
 
 template <class Layout>
-int sizeOfLayout(const Layout& layout) {
+inline int sizeOfLayout(const Layout& layout) {
   return static_cast<int>(wireSizeOf(layout));
 }
 
 /// All of the layout, or nothing.
 template <class Layout>
-bool writeLayout(const Layout& layout, ByteStream& out) {
-  const std::size_t before = out.bytes().size();
+inline bool writeLayout(const Layout& layout, ByteStream& out) {
   const std::size_t size = wireSizeOf(layout);
-  WireWriter writer(out.extend(size + WireWriter::SLACK));
+  WireWriter writer(out.prepare(size + WireWriter::SLACK));
   Layout::wire(layout, writer);
-  out.truncate(writer.succeeded() ? before + size : before);
+  if (writer.succeeded()) out.commit(size);
   return writer.succeeded();
 }
 
 template <class Layout>
-void describeLayout(const Layout& layout, FieldSink& sink) {
+inline void describeLayout(const Layout& layout, FieldSink& sink) {
   FieldDescriber describer(sink);
   Layout::wire(layout, describer);
 }

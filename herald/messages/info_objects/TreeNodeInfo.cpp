@@ -53,7 +53,7 @@ TreeNodeInfo::TreeNodeInfo(int id, int nameId, bool isSubscribable, int port) {
 // Takes the tree apart into groups of siblings before any is destroyed. The groups form a list without further memory:
 // the first node of a group has lost its sub-nodes already and holds the next group in their place.
 TreeNodeInfo::~TreeNodeInfo() {
-  if (subNodes_.empty()) return;
+  if (subNodes_.empty() || subNodes_.isSettled()) return;
   List<TreeNodeInfo> groups;
   const auto add = [&groups](List<TreeNodeInfo> group) {
     while (!group.empty()) {

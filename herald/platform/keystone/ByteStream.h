@@ -120,15 +120,20 @@ class HERALD_API ByteStream {
 
   /// Appends the bytes, which are not this stream's, as they are.
   void append(std::span<const std::uint8_t> bytes) {
-    if (!bytes.empty()) std::memcpy(extend(bytes.size()), bytes.data(), bytes.size());
+    if (bytes.empty()) return;
+    std::memcpy(prepare(bytes.size()), bytes.data(), bytes.size());
+    commit(bytes.size());
   }
-  /// Appends that many bytes, which the caller fills in before anything else is done with the stream, and answers the
-  /// first of them.
-  std::uint8_t* extend(std::size_t count) {
+  /// Room for that many bytes behind the last one, for the caller to fill in. It is valid until the stream is changed.
+  std::uint8_t* prepare(std::size_t count) {
     if (room_ < count) [[unlikely]]
       grow(count);
+    return own_.get() + size_;
+  }
+  /// Appends the first `count` bytes of the room that was prepared, which holds as many.
+  void commit(std::size_t count) {
     room_ -= count;
-    return own_.get() + std::exchange(size_, size_ + count);
+    size_ += count;
   }
   /// Consumes that many bytes; throws `KeystoneException`, and consumes nothing, when fewer are left.
   void skip(std::size_t count) {
@@ -152,7 +157,8 @@ class HERALD_API ByteStream {
  private:
   template <std::unsigned_integral T>
   ByteStream& put(T value) {
-    BigEndian<T>::store(value, extend(sizeof(T)));
+    BigEndian<T>::store(value, prepare(sizeof(T)));
+    commit(sizeof(T));
     return *this;
   }
 

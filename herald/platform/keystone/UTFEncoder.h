@@ -33,6 +33,25 @@ class HERALD_API UTFEncoder {
   /// Whether a text can travel: it is valid, and not too long.
   static bool isEncodable(std::string_view utf8) { return utf8.size() <= MAX_ENCODED_LENGTH && isValid(utf8); }
 
+  /// Copies the bytes, and answers whether they are valid and not too many to travel.
+  static bool copyEncodable(std::string_view utf8, std::uint8_t* to) {
+    constexpr std::size_t WORD = sizeof(std::uint64_t);
+    if (utf8.size() < WORD || utf8.size() > MAX_ENCODED_LENGTH) {
+      utf8.copy(reinterpret_cast<char*>(to), utf8.size());
+      return isEncodable(utf8);
+    }
+    const auto copyWord = [&](std::size_t i) {
+      std::uint64_t word;
+      std::memcpy(&word, utf8.data() + i, WORD);
+      std::memcpy(to + i, &word, WORD);
+      return word;
+    };
+    // The last word may overlap the one before it.
+    std::uint64_t all = copyWord(utf8.size() - WORD);
+    for (std::size_t i = 0; i + WORD < utf8.size(); i += WORD) all |= copyWord(i);
+    return (all & 0x8080808080808080u) == 0 || isValidBeyondAscii(utf8);
+  }
+
   /// A lone surrogate becomes the three bytes that UTF-8 would give its number: `toWide` gives it back, `isValid` and
   /// the encoder refuse it.
   static std::string toUTF8(std::wstring_view text);
