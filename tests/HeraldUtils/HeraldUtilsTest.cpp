@@ -1,12 +1,5 @@
 #include <gtest/gtest.h>
-#include <herald/HeraldUtils/CurrentServerTimeModel.h>
-#include <herald/HeraldUtils/DateUtils.h>
-#include <herald/HeraldUtils/NodeTimer.h>
-#include <herald/HeraldUtils/SystemTime.h>
-#include <herald/HeraldUtils/TournamentBuyIn.h>
-#include <herald/HeraldUtils/UserAccountModel.h>
-#include <herald/platform/keystone/Exceptions.h>
-#include <herald/platform/lexicon/ResourceManager.h>
+#include <herald/herald.h>
 #include <tests/support/ManualClock.h>
 #include <tests/support/RecordingSink.h>
 

@@ -1,11 +1,5 @@
 #include <gtest/gtest.h>
-#include <herald/dispatch/ConnectionStatus.h>
-#include <herald/messages/ChatEvents.h>
-#include <herald/messages/ClientMessageTable.h>
-#include <herald/messages/LobbyEvents.h>
-#include <herald/messages/LobbyRequests.h>
-#include <herald/messages/SeatEvents.h>
-#include <herald/messages/ServerConnectionStatus.h>
+#include <herald/herald.h>
 #include <tests/support/RecordingSink.h>
 #include <tests/support/VisitingHandler.h>
 

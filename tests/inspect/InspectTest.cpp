@@ -1,14 +1,5 @@
 #include <gtest/gtest.h>
-#include <herald/inspect/Encoding.h>
-#include <herald/inspect/FieldList.h>
-#include <herald/inspect/Json.h>
-#include <herald/messages/ClientMessageFactory.h>
-#include <herald/messages/info_objects/PlayerInGameInfo.h>
-#include <herald/messages/info_objects/TesselBool.h>
-#include <herald/messages/info_objects/TournamentJoinRequest.h>
-#include <herald/messages/info_objects/TreeNodeInfo.h>
-#include <herald/messages/info_objects/TsString.h>
-#include <herald/platform/keystone/ByteStream.h>
+#include <herald/herald.h>
 #include <tests/support/Golden.h>
 #include <tests/support/Notation.h>
 #include <tests/support/RecordingSink.h>

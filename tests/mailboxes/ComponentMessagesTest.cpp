@@ -1,12 +1,5 @@
 #include <gtest/gtest.h>
-#include <herald/mailboxes/BasicTexasStatControllerMessages.h>
-#include <herald/mailboxes/GameModelNotifMessages.h>
-#include <herald/mailboxes/LobbyToGameMessages.h>
-#include <herald/mailboxes/PlayerNotesSubscriberMessages.h>
-#include <herald/mailboxes/ServerViewMessages.h>
-#include <herald/mailboxes/TournamentLobbyControllerMessages.h>
-#include <herald/platform/keystone/MVCModel.h>
-#include <herald/wire/WireTypes.h>
+#include <herald/herald.h>
 
 #include <functional>
 #include <memory>

@@ -1,16 +1,5 @@
 #include <gtest/gtest.h>
-#include <herald/messages/info_objects/AccountBalanceInfo.h>
-#include <herald/messages/info_objects/ChatMessage.h>
-#include <herald/messages/info_objects/MonetaryInfo.h>
-#include <herald/messages/info_objects/PGSettingsInfoList.h>
-#include <herald/messages/info_objects/PingInfoInfo.h>
-#include <herald/messages/info_objects/PokerGameInfo.h>
-#include <herald/messages/info_objects/SettingsInfo.h>
-#include <herald/messages/info_objects/TreeNodeInfoList.h>
-#include <herald/messages/info_objects/VIPList.h>
-#include <herald/platform/keystone/Exceptions.h>
-#include <herald/platform/keystone/MoneyModel.h>
-#include <herald/wire/FieldSink.h>
+#include <herald/herald.h>
 #include <tests/support/AllocationCount.h>
 #include <tests/support/Told.h>
 #include <tests/support/WireBytes.h>
@@ -249,6 +238,28 @@ TEST(SettingsInfo, SetsAndClearsFlags) {
   EXPECT_EQ(settings.getUINTFormat(), 0x1'0000'0007);
   settings.unSet(SettingsInfo::SOUND);
   EXPECT_EQ(settings.getUINTFormat(), 6);
+}
+
+// ---- Messages
+
+TEST(NodeIds, AreSetByUpdatesAndByUnsubscribingButNotByGameLists) {
+  const auto update = golden<GameListUpdate>();
+  const auto list = golden<GameList>();
+  EXPECT_EQ(told(update.getNodeId(), static_cast<const ClientMessage&>(update).getNodeId(),
+                 golden<UnSubscribeNode>().getNodeId(), list.getNodeId(),
+                 static_cast<const ClientMessage&>(list).getNodeId()),
+            "-420 -420 -680 -90 -1");
+}
+
+TEST(NumPlayersLoggedIn, IsRead) {
+  ByteStream out;
+  const auto message = decode<NumPlayersLoggedIn>(out << 1 << 2 << 3 << 4 << 5);
+  EXPECT_EQ(told(message.getRealPlayersAtTable(), message.getPlayPlayersAtTable(), message.getNumRealTables(),
+                 message.getNumPlayTables(), message.getRealMoneyAtTables()),
+            "1 2 3 4 5");
+  EXPECT_EQ(message.toDebugString(),
+            L"[NumPlayersLoggedInMsg: iRealPlayersAtTable=1, iPlayPlayersAtTable=2, iNumRealTables=3, "
+            L"iNumPlayTables=4, iRealMoneyAtTables=5]");
 }
 
 // ---- Money

@@ -1,24 +1,13 @@
 #include <gtest/gtest.h>
-#include <herald/inspect/FieldList.h>
-#include <herald/inspect/Json.h>
-#include <herald/messages/LobbyRequests.h>
-#include <herald/messages/PrivateGameRequests.h>
-#include <herald/messages/RebuyRequests.h>
-#include <herald/messages/ServerMessageData.h>
-#include <herald/messages/ServerMessageTable.h>
-#include <herald/messages/TableRequests.h>
-#include <herald/messages/TournamentCreationRequests.h>
-#include <herald/messages/TournamentLobbyRequests.h>
-#include <herald/platform/keystone/ByteStream.h>
-#include <herald/platform/keystone/Exceptions.h>
+#include <herald/herald.h>
+#include <tests/support/Golden.h>
 #include <tests/support/Notation.h>
 #include <tests/support/RecordingSink.h>
 
+#include <algorithm>
 #include <functional>
 #include <memory>
 #include <set>
-#include <string>
-#include <vector>
 
 namespace Tessel {
 
@@ -111,6 +100,7 @@ TEST(ServerMessageTable, EveryRequestWritesTheFrameThatItsRowAndItsFieldsTell) {
   for (const ServerMessageRow& row : serverMessageTable()) {
     SCOPED_TRACE(row.name);
     EXPECT_EQ(findServerMessageRow(row.id), &row);
+    EXPECT_TRUE(std::ranges::count(requestCases(), row.name, &GoldenCase::name)) << "no golden frame";
     const auto request = row.create();
     ByteStream out;
     ASSERT_TRUE(request->write(out));
@@ -128,25 +118,24 @@ TEST(ServerMessageTable, EveryRequestWritesTheFrameThatItsRowAndItsFieldsTell) {
   EXPECT_EQ(findServerMessageRow(136), nullptr);
 }
 
-TEST(Requests, WithoutABodyAreAFrameAlone) {
-  const std::pair<int, std::string> requests[] = {
-      {130, "ServerSitIn"},     {133, "ServerFold"},           {137, "ServerMuckCards"}, {138, "ServerShowCards"},
-      {139, "ServerImBack"},    {142, "ServerHurryAck"},       {143, "TableInfoReq"},    {146, "WaitForBigBlind"},
-      {-20, "PlayerLeaveGame"}, {147, "DoNotWaitForBigBlind"}, {148, "AutoPostBlind"},   {149, "ManualPostBlind"},
-      {-75, "ShowCashierReq"},  {-35, "PlayerStandUpReq"}};
-  for (const auto& [id, name] : requests) {
-    SCOPED_TRACE(name);
-    const ServerMessageRow* row = findServerMessageRow(id);
-    ASSERT_NE(row, nullptr);
-    EXPECT_EQ(row->name, name);
-    EXPECT_EQ(frameOf(*row->create()).substr(4), "0000");
-    EXPECT_EQ(row->create()->toDebugString(), L'[' + std::wstring(name.begin(), name.end()) + L']');
-  }
+template <class... Requests>
+void expectGoldenFrames(const Requests&... requests) {
+  ASSERT_EQ(requestCases().size(), sizeof...(requests));
+  auto golden = requestCases().begin();
+  const auto expect = [&](std::string_view name, const ServerMessage& request) {
+    SCOPED_TRACE(golden->where);
+    EXPECT_EQ(name, golden->name);
+    EXPECT_EQ(frameOf(request), toHex(golden->bytes));
+    EXPECT_EQ(UTFEncoder::toUTF8(request.toDebugString()), golden->text);
+    ++golden;
+  };
+  (expect(typeName<Requests>(), requests), ...);
 }
 
 TEST(Requests, WriteTheirFramesAndPrintThemselves) {
   DiscardCardsInfo discarded;
   discarded.setSeat(-6);
+  discarded.setDiscardedCards({7, 8});
   discarded.setDiscardedCards({0, -1, 0x105});
   const CreateTourRequestType choices(Tourney::TournamentType::SCHEDULED, GameTypes::AllowedGameType::OMAHA_HI_LO,
                                       LimitTypes::AllowedLimitType::NO_LIMIT, 0x1FF, 0x18001, 0x102, -2, 0x180, -1,
@@ -154,61 +143,25 @@ TEST(Requests, WriteTheirFramesAndPrintThemselves) {
   // What has no bit in the masks, and empty texts.
   const CreateTourRequestType oddChoices(Tourney::TournamentType{5}, GameTypes::AllowedGameType{0x103},
                                          LimitTypes::AllowedLimitType{7}, 0, 0, 0, 0, 0, 0, 0, 0, 0, L"", L"");
-  const auto around = [](const std::wstring& name, int tableId, const std::wstring& password = L"") {
-    return L"[" + name + L":  [TournamentJoinRequest - iPlayerId=7, iTournamentId=42, iTableId="
-           + std::to_wstring(tableId) + L", iReplyStatus=0 iPassword&" + password + L"]]";
-  };
-  const struct {
-    std::unique_ptr<ServerMessage> request;
-    std::string_view frame;
-    std::wstring text;
-  } cases[] = {
-      {std::make_unique<ServerSitOut>(), "0083 0008 00000000 00000000", L"[ServerSitOut: [PlayerId: id=0, seat=0]]"},
-      {std::make_unique<ServerBet>(7, 3, -250), "0084 000D 00000007 03 FFFFFFFFFFFFFF06",
-       L"[ServerBet: [CreditInfo: id=7, seat=3, amount=-250]]"},
-      {std::make_unique<ServerCheckCall>(-7, -3, 1), "0086 000D FFFFFFF9 FD 0000000000000001",
-       L"[ServerCheckCall: [CreditInfo: id=-7, seat=-3, amount=1]]"},
-      {std::make_unique<ServerAllIn>(1, 2, 0x0102030405060708), "0087 000D 00000001 02 0102030405060708",
-       L"[ServerAllIn: [CreditInfo: id=1, seat=2, amount=72623859790382856]]"},
-      {std::make_unique<ServerInTurnAction>(7, 2, 1, InTurnAction::InTurnActionType{-4}, 500),
-       "008D 0018 00000002 00000007 00000001 FFFFFFFC 00000000000001F4",
-       L"[ServerInTurnAction: [playerId: 7 playerSeat: 2 betRound: 1 actionType: -4 amount: 500]"},
-      {std::make_unique<PlayerCastVote>(144, -1), "0090 0008 00000090 FFFFFFFF", L"[PlayerCastVote: 144]"},
-      {std::make_unique<PlayerCancelVote>(-145, 2), "0091 0008 FFFFFF6F 00000002", L"[PlayerCancelVote: -145]"},
-      {std::make_unique<ServerDiscardCards>(discarded), "0096 0005 FA 03 00 FF 05",
-       L"[ServerDiscardCards: [DiscardCardsInfo]]"},
-      {std::make_unique<SitDownRequest>(-3), "FFE8 0001 FD", L"[SitDownRequest: Seat: -3]"},
-      {std::make_unique<ReserveMoney>(-4000000000), "FFE0 0008 FFFFFFFF1194D800", L"[ReserveMoney: -4000000000]"},
-      {std::make_unique<TournamentLobbyReq>(7, 42), "00CA 000F 00000007 0000002A 00000000 00 0000",
-       L"[TournamentLobbyReq:]"},
-      {std::make_unique<TournamentTableReqMsg>(7, 42, 3), "00CB 000F 00000007 0000002A 00000003 00 0000",
-       around(L"TournamentTableReqMsg", 3)},
-      {std::make_unique<TournamentJoinRequestMsg>(7, 42, L""), "00CD 000F 00000007 0000002A FFFFFFFF 00 0000",
-       around(L"TournamentJoinRequestMsg", -1)},
-      {std::make_unique<TournamentJoinRequestMsg>(7, 42, L"b\xE9"),
-       "00CD 0012 00000007 0000002A FFFFFFFF 00 000362C3A9", around(L"TournamentJoinRequestMsg", -1, L"b\xE9")},
-      {std::make_unique<TournamentUnjoinRequestMsg>(7, 42), "00CE 000F 00000007 0000002A 00000000 00 0000",
-       around(L"TournamentUnjoinRequestMsg", 0)},
-      {std::make_unique<TournamentDataReqWinClient>(42, 7), "00D0 000F 00000007 0000002A FFFFFFFF 00 0000",
-       L"[TournamentDataReqWinClient:]"},
-      {std::make_unique<TournamentRebuyReplyMsg>(42, false), "00D1 0005 0000002A 00",
-       L"[OldTournamentRebuyReplyMsg: TourId=42, Accept=false]"},
-      {std::make_unique<TournamentRebuyReplyMsg>(-2, true), "00D1 0005 FFFFFFFE 01",
-       L"[OldTournamentRebuyReplyMsg: TourId=-2, Accept=true]"},
-      {std::make_unique<TournamentCreationRulesReq>(), "00DC 0000", L"[TournamentCreationRulesReq]"},
-      {std::make_unique<CancelTournamentReq>(42), "00DD 0004 0000002A", L"[CancelTournamentReq - tour id=42]"},
-      {std::make_unique<StartTournamentReq>(42), "00DE 0004 0000002A", L"[StartTournamentReq - tour id=42]"},
-      {std::make_unique<CreateTournamentReq>(choices),
-       "00DF 0021 02 02 04 FF 8001 02 FFFE 80 FF 0102030405060708 2345 7FFFFFFF 000161 000362C3A9",
-       L"[CreateTournamentReq - iTourRequest=to do]"},
-      {std::make_unique<CreateTournamentReq>(oddChoices),
-       "00DF 001D 00 03 00 00 0000 00 0000 00 00 0000000000000000 0000 00000000 0000 0000",
-       L"[CreateTournamentReq - iTourRequest=to do]"},
-  };
-  for (const auto& [request, frame, text] : cases) {
-    EXPECT_EQ(frameOf(*request), toHex(toBytes(frame)));
-    EXPECT_EQ(request->toDebugString(), text);
-  }
+  const JoinRequestStatus denied(JoinRequestStatus::Status::REFUSED_DENIED);
+  const PGSettings settings(9, 6, PGSettings::JoinType{1}, L"ab", PokerGameInfo::GameSpeed{2});
+  expectGoldenFrames(
+      ServerSitIn(), ServerFold(), ServerMuckCards(), ServerShowCards(), ServerImBack(), ServerHurryAck(),
+      TableInfoReq(), WaitForBigBlind(), PlayerLeaveGame(), DoNotWaitForBigBlind(), AutoPostBlind(), ManualPostBlind(),
+      ShowCashierReq(), PlayerStandUpReq(), ServerSitOut(), ServerBet(7, 3, -250), ServerCheckCall(-7, -3, 1),
+      ServerAllIn(1, 2, 0x0102030405060708), ServerInTurnAction(7, 2, 1, InTurnAction::InTurnActionType{-4}, 500),
+      PlayerCastVote(144, -1), PlayerCancelVote(-145, 2), ServerDiscardCards(discarded), SitDownRequest(-3),
+      ReserveMoney(-4000000000), JoinLobbyRequest(17), JoinGameRequest(17, 4),
+      ServerChatMsg(ChatMessage(L"a", L"\xE9")), ServerGlobalChatMsg(L"a", L""), JoinWaitingReq(), LeaveWaitingReq(),
+      GameListRequestMsg(), Pong(0x0102030405060708, 30), VIPRequest(), UnSubscribeVIPs(), GetTreeReq(),
+      SubscribeNodeReq(SubscriptionInfo(12, 1)), UnSubscribeNodeReq(SubscriptionInfo(12, 1)), MonetaryInfoReq(),
+      AccountBalanceInfoReq(), ServerSettings(0x100000003), PGJoinGameReq(PlayerInfo(1, L"n", L"", 2, 3, L"t"), L"hi"),
+      PGGamesSettingsListReq(), PGCreateGameReq(settings), PGPlayerCancelJoinGameGameReq(),
+      PGPlayerJoinRequestReply(denied, 42), TournamentLobbyReq(7, 42), TournamentTableReqMsg(7, 42, 3),
+      TournamentJoinRequestMsg(7, 42, L""), TournamentJoinRequestMsg(7, 42, L"b\xE9"),
+      TournamentUnjoinRequestMsg(7, 42), TournamentDataReqWinClient(42, 7), TournamentRebuyReplyMsg(42, false),
+      TournamentRebuyReplyMsg(-2, true), TournamentCreationRulesReq(), CancelTournamentReq(42), StartTournamentReq(42),
+      CreateTournamentReq(choices), CreateTournamentReq(oddChoices));
 }
 
 TEST(TournamentRequests, MarkWhatMayBeAPasswordAsSecret) {

@@ -1,23 +1,5 @@
 #include <gtest/gtest.h>
-#include <herald/platform/keystone/Exceptions.h>
-#include <herald/platform/tableau/BlindLevelSpeed.h>
-#include <herald/platform/tableau/CreatePrivateTournamentError.h>
-#include <herald/platform/tableau/DealType.h>
-#include <herald/platform/tableau/GameType.h>
-#include <herald/platform/tableau/HandValue.h>
-#include <herald/platform/tableau/LimitType.h>
-#include <herald/platform/tableau/PlayerRegistrationStatus.h>
-#include <herald/platform/tableau/PotType.h>
-#include <herald/platform/tableau/PrizeStructureType.h>
-#include <herald/platform/tableau/RebuyStructure.h>
-#include <herald/platform/tableau/StatusInTour.h>
-#include <herald/platform/tableau/TableNotificationEvent.h>
-#include <herald/platform/tableau/TournamentLevelInformation.h>
-#include <herald/platform/tableau/TournamentNotification.h>
-#include <herald/platform/tableau/TournamentRebuyFailed.h>
-#include <herald/platform/tableau/TournamentStatus.h>
-#include <herald/platform/tableau/TournamentSynchedEvent.h>
-#include <herald/platform/tableau/TournamentType.h>
+#include <herald/herald.h>
 
 #include <limits>
 #include <set>

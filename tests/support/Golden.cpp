@@ -33,6 +33,8 @@ void addLine(GoldenCase& golden, const std::string& key, const std::string& rest
     append(golden.values, rest);
   else if (key == "text")
     golden.text = unescape(rest);
+  else if (key == "told")
+    golden.told = rest;
   else if (key == "result" && rest == "false")
     golden.result = false;
   else if (key == "throws")
@@ -48,15 +50,17 @@ void addLine(GoldenCase& golden, const std::string& key, const std::string& rest
 }
 
 // Only what went wrong may leave its values open.
-void check(const GoldenCase& golden) {
-  if (!golden.values && golden.result && !golden.throws && golden.reports == 0)
-    throw std::runtime_error(golden.where + ": no values");
+std::vector<GoldenCase> checked(std::vector<GoldenCase> cases) {
+  for (const GoldenCase& golden : cases) {
+    if (!golden.values && golden.result && !golden.throws && golden.reports == 0)
+      throw std::runtime_error(golden.where + ": no values");
+  }
+  return cases;
 }
 
 void readFile(const std::string& name, std::vector<GoldenCase>& cases) {
   std::ifstream file(HERALD_SOURCE_DIR "/tests/messages/golden/" + name, std::ios::binary);
   if (!file) throw std::runtime_error(name);
-  const std::size_t before = cases.size();
   std::string line;
   for (int number = 1; std::getline(file, line); ++number) {
     if (!line.empty() && line.back() == '\r') line.pop_back();
@@ -64,7 +68,7 @@ void readFile(const std::string& name, std::vector<GoldenCase>& cases) {
     std::istringstream words(line);
     std::string key;
     words >> key >> std::ws;
-    if (key == "message" || key == "record") {
+    if (key == "message" || key == "record" || key == "request") {
       cases.push_back(begin(name + ':' + std::to_string(number), words));
       continue;
     }
@@ -76,20 +80,23 @@ void readFile(const std::string& name, std::vector<GoldenCase>& cases) {
       std::getline(words, rest);
     addLine(cases.at(cases.size() - 1), key, rest);
   }
-  std::for_each(cases.begin() + static_cast<std::ptrdiff_t>(before), cases.end(), check);
 }
 
-std::vector<GoldenCase> readAll() {
+std::vector<GoldenCase> readFiles(std::initializer_list<const char*> names) {
   std::vector<GoldenCase> cases;
-  for (const char* name : {"records.golden", "table.golden", "lobby.golden", "tournament.golden"})
-    readFile(name, cases);
+  for (const char* name : names) readFile(name, cases);
   return cases;
 }
 
 }  // namespace
 
 const std::vector<GoldenCase>& goldenCases() {
-  static const std::vector<GoldenCase> cases = readAll();
+  static const auto cases = checked(readFiles({"records.golden", "table.golden", "lobby.golden", "tournament.golden"}));
+  return cases;
+}
+
+const std::vector<GoldenCase>& requestCases() {
+  static const auto cases = readFiles({"requests.golden"});
   return cases;
 }
 

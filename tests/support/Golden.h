@@ -15,6 +15,7 @@ struct GoldenCase {
   std::vector<std::uint8_t> bytes{};
   std::optional<std::string> values{};
   std::optional<std::string> text{};
+  std::optional<std::string> told{};
   bool result = true;
   std::optional<std::string> throws{};
   std::optional<std::vector<std::uint8_t>> again{};
@@ -27,6 +28,9 @@ struct GoldenCase {
 
 /// All cases of all files. Throws `std::runtime_error` for one that says nothing or what it must not.
 const std::vector<GoldenCase>& goldenCases();
+
+/// The frames that requests write, in the order of their file.
+const std::vector<GoldenCase>& requestCases();
 
 /// The first case of the class, which has every field; throws `std::out_of_range` when there is none.
 const GoldenCase& goldenCase(std::string_view name);

@@ -6,7 +6,6 @@
 #include <tests/support/Golden.h>
 #include <tests/support/Notation.h>
 
-#include <functional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -68,9 +67,8 @@ T golden() {
   return read<T>(goldenCase(typeName<T>()).bytes);
 }
 
-template <class T>
-void expectTold(std::string_view expected, const std::function<std::string(const T&)>& accessors) {
-  EXPECT_EQ(accessors(golden<T>()), expected) << typeName<T>();
-}
+/// Of the first golden case of a class, `it`, these accessors answer what the case says.
+#define EXPECT_ANSWERS(Class, ...) \
+  EXPECT_EQ([](const Class& it) { return told(__VA_ARGS__); }(golden<Class>()), goldenCase(#Class).told)
 
 }  // namespace Tessel
