@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
-#include <herald/platform/keystone/ByteStream.h>
-#include <herald/platform/keystone/Exceptions.h>
+#include <herald/herald.h>
 #include <tests/support/Notation.h>
 
 #include <cstdint>
@@ -84,6 +83,9 @@ TEST(ByteStream, TellsWhatIsHeldAndWhatIsUnread) {
   EXPECT_EQ(copy.GetSize(), 6);
   copy.truncate(2);
   EXPECT_EQ(toHex(copy.unread()), "02");
+  EXPECT_FALSE(copy.eos()) << "one byte is left";
+  copy.truncate(0);
+  EXPECT_EQ(copy.unreadCount(), 0u) << "the read position stays within the bytes";
   copy.clear();
   EXPECT_TRUE(copy.eos());
   EXPECT_EQ(copy.GetSize(), 0);

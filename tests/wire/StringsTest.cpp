@@ -1,9 +1,5 @@
 #include <gtest/gtest.h>
-#include <herald/messages/info_objects/TsString.h>
-#include <herald/platform/keystone/BugReporter.h>
-#include <herald/platform/keystone/ByteStream.h>
-#include <herald/platform/keystone/Exceptions.h>
-#include <herald/platform/keystone/UTFEncoder.h>
+#include <herald/herald.h>
 #include <tests/support/Notation.h>
 #include <tests/support/RecordingSink.h>
 
@@ -54,6 +50,23 @@ TEST(Strings, WhatIsNoTextIsConsumedWholeAndRefused) {
     EXPECT_THROW(UTFEncoder::decodeFromTsUTF8(in), KeystoneException);
     EXPECT_EQ(toHex(in.unread()), "55");
   }
+}
+
+TEST(Strings, EveryByteIsLookedAt) {
+  for (std::size_t size = 1; size <= 17; ++size) {
+    for (std::size_t bad = 0; bad < size; ++bad) {
+      std::string text(size, 'a');
+      EXPECT_TRUE(UTFEncoder::isValid(text));
+      text[bad] = '\x80';
+      EXPECT_FALSE(UTFEncoder::isValid(text)) << bad << " of " << size;
+    }
+  }
+}
+
+TEST(Strings, AWideCharacterBeyondUnicodeIsReplaced) {
+  if (sizeof(wchar_t) == 2) GTEST_SKIP() << "there is none";
+  for (const int unit : {0x110000, -1})
+    EXPECT_EQ(UTFEncoder::toUTF8(std::wstring(1, static_cast<wchar_t>(unit))), "\uFFFD") << unit;
 }
 
 TEST(Strings, ATextThatIsCutShortTakesAllThatIsLeft) {
