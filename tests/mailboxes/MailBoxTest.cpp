@@ -1,10 +1,10 @@
 #include <gtest/gtest.h>
-#include <herald/mailboxes/GameModelNotifMessages.h>
-#include <herald/mailboxes/LobbyToGameMessages.h>
-#include <herald/mailboxes/MailBoxes.h>
+#include <herald/herald.h>
+#include <tests/support/AllocationCount.h>
 #include <tests/support/RecordingSink.h>
 
 #include <atomic>
+#include <new>
 #include <stdexcept>
 #include <thread>
 
@@ -69,6 +69,58 @@ TEST(MailBox, KeepsTheOrderTellsThePostOfficeAndDeletesWhatIsLeft) {
   EXPECT_EQ(living, 0);
 }
 
+// The room for messages begins with 16 and doubles. Where the oldest stands in it must not matter.
+TEST(MailBox, KeepsTheOrderFromAnyPlaceInItsRing) {
+  for (const int count : {15, 16, 17, 33}) {
+    for (int start = 0; start < 17; ++start) {
+      LobbyToGameMailBox box;
+      for (int number = 0; number < start; ++number) box.post(new Posted(0, number));
+      for (int number = 0; number < start; ++number) EXPECT_TRUE(box.pickupOwned());
+      for (int number = 0; number < count; ++number) box.post(new Posted(0, number));
+      for (int number = 0; number < count; ++number) ASSERT_EQ(numberOf(box.pickupOwned()), number) << count << start;
+    }
+  }
+}
+
+TEST(MailBox, IsAsItWasWhenMemoryRunsOut) {
+#ifdef _WIN32
+  GTEST_SKIP() << "the library's allocations cannot be made to fail here";
+#endif
+  PostOffice office;
+  LobbyToGameMailBox box(&office);
+  for (int number = 0; number < 16; ++number) box.post(new Posted(0, number));
+  auto message = std::make_unique<Posted>(0, 16);
+  const auto postWithoutMemory = [&] {
+    const WithoutMemory lasting;
+    box.post(message.get());
+  };
+  EXPECT_THROW(postWithoutMemory(), std::bad_alloc);
+  EXPECT_EQ(office.getMailCount(), 16);
+  box.post(std::move(message));
+  for (int number = 0; number <= 16; ++number) EXPECT_EQ(numberOf(box.pickupOwned()), number);
+  EXPECT_EQ(living, 0);
+}
+
+template <class Box>
+int mailOfOneMessage() {
+  PostOffice office;
+  Box box(&office);
+  [&]<class T>(MailBox<T, 1>& base) { base.post(static_cast<T*>(nullptr)); }(box);
+  return office.getMailCount();
+}
+
+template <class... Boxes>
+std::vector<int> mailOfEach() {
+  return {mailOfOneMessage<Boxes>()...};
+}
+
+TEST(MailBox, EachOfTheSevenTellsItsPostOffice) {
+  const auto counts = mailOfEach<BasicTexasStatControllerMessageMailBox, ClientMessageMailBox, GameModelNotifMailbox,
+                                 LobbyToGameMailBox, PlayerNotesSubscriberMailBox, ServerViewMailbox,
+                                 TournamentLobbyControllerMailbox>();
+  EXPECT_EQ(counts, std::vector<int>(7, 1));
+}
+
 TEST(MailBox, WorksWithoutAPostOfficeAndWithMessagesWithoutAVirtualDestructor) {
   GameModelNotifMailbox box(nullptr);
   box.post(std::make_unique<GMLobby>(1));
@@ -83,7 +135,9 @@ TEST(MailBox, APostOfficeMayCallBackIntoTheMailbox) {
       foundMail = !box->isEmpty() && box->pickupOwned() != nullptr;
       foundMore = box->pickupOwned() != nullptr;
     }
+    void pickup() override { emptyAtPickup = box->isEmpty(); }
     LobbyToGameMailBox* box = nullptr;
+    bool emptyAtPickup = false;
     bool foundMail = false;
     bool foundMore = true;
   } office;
@@ -91,6 +145,7 @@ TEST(MailBox, APostOfficeMayCallBackIntoTheMailbox) {
   office.box = &box;
   box.post(new Posted(0, 1));
   EXPECT_TRUE(office.foundMail && !office.foundMore);
+  EXPECT_TRUE(office.emptyAtPickup) << "the post office is told when the message is out";
   EXPECT_TRUE(box.isEmpty());
 }
 
@@ -131,7 +186,7 @@ TEST(MailBox, PickingAllUpLeavesWhatThePostOfficePostsMeanwhile) {
 TEST(MailBox, ManyProducersOneConsumer) {
   constexpr int POSTERS = 4;
   constexpr int MESSAGES = 250'000;  // of each
-  PostOffice office;
+  CountingPostOffice office;         // Its counts have no guard but the mailbox's lock.
   auto box = std::make_unique<LobbyToGameMailBox>(&office);
   std::vector<std::thread> posters;
   posters.reserve(POSTERS);
@@ -159,6 +214,8 @@ TEST(MailBox, ManyProducersOneConsumer) {
   EXPECT_EQ(living, 10);
   box.reset();
   EXPECT_EQ(office.getMailCount(), 0);
+  EXPECT_EQ(office.posts, POSTERS * MESSAGES);
+  EXPECT_EQ(office.pickups, POSTERS * MESSAGES);
   EXPECT_EQ(living, 0);
 }
 

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 #include <herald/platform/keystone/PostOffice.h>
 
+#include <chrono>
 #include <latch>
 #include <thread>
 
@@ -34,9 +35,23 @@ TEST(PostOfficeThreads, CountsEveryMailOfTwoProducers) {
   const std::jthread producers[] = {std::jthread(produce), std::jthread(produce)};
   for (int i = 0; i < 2 * MAILS; ++i) {
     ASSERT_TRUE(office.waitForMail(LONG_MS));
+    ASSERT_GE(office.getMailCount(), 1);
     office.pickup();
   }
   EXPECT_EQ(office.getMailCount(), 0);
+}
+
+TEST(PostOfficeThreads, WakesAllWhoWait) {
+  const auto start = std::chrono::steady_clock::now();
+  {
+    PostOffice office;
+    const auto wait = [&] { EXPECT_TRUE(office.waitForMail(LONG_MS)); };
+    std::jthread waiting[] = {std::jthread(wait), std::jthread(wait), std::jthread(wait)};
+    std::this_thread::sleep_for(std::chrono::milliseconds(50));
+    office.post();
+    for (std::jthread& thread : waiting) thread.join();
+  }
+  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(LONG_MS / 2));
 }
 
 TEST(PostOfficeThreads, WakesAWaitingConsumerEachTime) {

@@ -9,4 +9,13 @@ int allocationCount();
 /// How many bytes they asked for, freed or not.
 std::size_t allocatedBytes();
 
+/// While it lives, this thread's calls of `operator new` throw `std::bad_alloc`.
+class WithoutMemory {
+ public:
+  WithoutMemory();
+  ~WithoutMemory();
+  WithoutMemory(const WithoutMemory&) = delete;
+  WithoutMemory& operator=(const WithoutMemory&) = delete;
+};
+
 }  // namespace Tessel
