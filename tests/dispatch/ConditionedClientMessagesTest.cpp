@@ -1,8 +1,5 @@
 #include <gtest/gtest.h>
-#include <herald/dispatch/ConditionedClientMessages.h>
-#include <herald/dispatch/DefaultClientMessageHandler.h>
-#include <herald/messages/SeatEvents.h>
-#include <herald/platform/keystone/ByteStream.h>
+#include <herald/herald.h>
 
 #include <functional>
 #include <stdexcept>
@@ -74,7 +71,12 @@ TEST_F(ConditionedClientMessagesTest, WithoutConditionsHoldsNothing) {
   ConditionedClientMessages open(handler, 0);
   Numbered message(1);
   EXPECT_FALSE(open.delayMessage(&message));
-  EXPECT_FALSE(open.delayMessage(static_cast<ClientMessage*>(nullptr)));
+  std::unique_ptr<ClientMessage> none;
+  for (const bool isPending : {false, true}) {
+    EXPECT_FALSE(open.delayMessage(nullptr) || open.delayMessage(none)) << "null is never held, pending " << isPending;
+    open.resetCondition(1);
+  }
+  open.setCondition(1);
 }
 
 TEST_F(ConditionedClientMessagesTest, DestroysWhatIsStillHeldWithoutDeliveringIt) {
@@ -115,13 +117,16 @@ TEST_F(ConditionedClientMessagesTest, AHandlerMayCallBack) {
   EXPECT_EQ(handler.delivered, (Numbers{1, 2, 3}));
 
   handler.onDelivery = [&](int number) {
-    if (number == 4) held.resetCondition(6);
+    if (number != 4) return;
+    held.resetCondition(6);
+    EXPECT_TRUE(held.delayMessage(new Numbered(6))) << "condition 6 is pending";
   };
   held.resetCondition(0);
   for (const int number : {4, 5}) EXPECT_TRUE(held.delayMessage(new Numbered(number)));
   held.setCondition(0);
   EXPECT_EQ(handler.delivered, (Numbers{1, 2, 3, 4, 5})) << "what was held is delivered all the same";
-  EXPECT_TRUE(held.delayMessage(new Numbered(6))) << "condition 6 is pending";
+  held.setCondition(6);
+  EXPECT_EQ(handler.delivered, (Numbers{1, 2, 3, 4, 5, 6}));
 }
 
 TEST_F(ConditionedClientMessagesTest, ACopySharesTheMessagesAndEachIsDestroyedOnce) {
@@ -133,6 +138,14 @@ TEST_F(ConditionedClientMessagesTest, ACopySharesTheMessagesAndEachIsDestroyedOn
   copy.setCondition(0);
   EXPECT_EQ(living, 0);
   EXPECT_EQ(handler.delivered, (Numbers{1, 1}));
+
+  held.resetCondition(3);
+  ConditionedClientMessages pending(held);
+  EXPECT_TRUE(pending.delayMessage(new Numbered(2))) << "what is pending is copied, too";
+  held.setCondition(3);
+  EXPECT_EQ(handler.delivered.size(), 2u);
+  pending.setCondition(3);
+  EXPECT_EQ(handler.delivered, (Numbers{1, 1, 2}));
 }
 
 }  // namespace

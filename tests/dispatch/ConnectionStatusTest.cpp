@@ -1,10 +1,8 @@
 #include <gtest/gtest.h>
-#include <herald/dispatch/ConnectingClientMessageHandler.h>
-#include <herald/messages/ServerConnectionStatus.h>
-#include <herald/platform/lexicon/ResourceManager.h>
+#include <herald/herald.h>
 
-#include <map>
 #include <set>
+#include <sstream>
 
 namespace Tessel {
 namespace {
@@ -16,36 +14,23 @@ std::wstring resourceText(const std::wstring& key) {
 }
 
 TEST(ConnectionStatus, EveryCodeHasItsTextAndItsFatality) {
-  const std::map<int, std::wstring> keys = {{-1, L"FAILED_AUTH"},
-                                            {1, L"REQUESTED"},
-                                            {2, L"KEY_SUCCESS"},
-                                            {3, L"UNDEFINED"},
-                                            {4, L"FAILED_NET"},
-                                            {5, L"FAILED_KEY_NET"},
-                                            {6, L"FAILED_SERVER"},
-                                            {7, L"FAILED_USER"},
-                                            {8, L"FAILED_DATA"},
-                                            {9, L"FAILED_COMMUNICATOR"},
-                                            {10, L"CLOSED"},
-                                            {11, L"ALREADY_CONNECTED"},
-                                            {12, L"FAIL_VERSION"},
-                                            {13, L"FAIL_PASS"},
-                                            {14, L"FAIL_TWICE"},
-                                            {15, L"OUT_OF_RECONNECTS"},
-                                            {16, L"SEND_FAILED_NOT_CONNECTED"},
-                                            {17, L"FAILED_SERVER_NOT_RESPONDING"},
-                                            {18, L"FAILED_ACCOUNT_DISABLED"}};
+  std::wistringstream keys(  // of the codes -1 and 1 to 18
+      L"FAILED_AUTH REQUESTED KEY_SUCCESS UNDEFINED FAILED_NET FAILED_KEY_NET FAILED_SERVER FAILED_USER FAILED_DATA "
+      L"FAILED_COMMUNICATOR CLOSED ALREADY_CONNECTED FAIL_VERSION FAIL_PASS FAIL_TWICE OUT_OF_RECONNECTS "
+      L"SEND_FAILED_NOT_CONNECTED FAILED_SERVER_NOT_RESPONDING FAILED_ACCOUNT_DISABLED");
   const std::set<int> fatal = {-105, -104, -103, -102, -101, -10, -8, -7, -4, -3, -2, -1,
                                3,    5,    6,    7,    8,    9,   12, 13, 14, 15, 17, 18};
   std::set<std::wstring> texts;
   for (int code = -110; code <= 25; ++code) {
     SCOPED_TRACE(code);
     const ConnectionFailed event(static_cast<ConnectionFailed::Error>(code));
-    const auto key = keys.find(code);
-    EXPECT_EQ(event.getMessage(), key == keys.end() ? L"" : resourceText(key->second));
+    const bool hasText = code == -1 || (code >= 1 && code <= 18);
+    std::wstring key;
+    if (hasText) keys >> key;
+    EXPECT_EQ(event.getMessage(), hasText ? resourceText(key) : L"");
     EXPECT_EQ(event.isFatal(), fatal.contains(code));
     EXPECT_EQ(ConnectionUpdate(static_cast<ConnectionFailed::Error>(code)).isFatal(), fatal.contains(code));
-    if (key != keys.end()) {
+    if (hasText) {
       EXPECT_TRUE(texts.insert(event.getMessage()).second) << "each key has a text of its own";
     }
   }
