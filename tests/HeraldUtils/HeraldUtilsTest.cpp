@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 #include <herald/herald.h>
+#include <tests/support/LockProbe.h>
 #include <tests/support/ManualClock.h>
 #include <tests/support/RecordingSink.h>
 
@@ -13,7 +14,9 @@ namespace {
 template <class Update>
 class Counter : public MVCObserver {
  public:
-  explicit Counter(MVCModel& observed) : model(observed) { model.addObserver(*this); }
+  Counter(MVCModel& observed, std::function<std::int64_t()> asking) : model(observed), ask(std::move(asking)) {
+    model.addObserver(*this);
+  }
   Counter(const Counter&) = delete;
   Counter& operator=(const Counter&) = delete;
   ~Counter() override { model.removeObserver(*this); }
@@ -21,46 +24,55 @@ class Counter : public MVCObserver {
   void update(const NotificationUpdateObject& update) override {
     static_cast<void>(dynamic_cast<const Update&>(update));
     ++count;
+    answer = ask();
   }
 
   MVCModel& model;
+  std::function<std::int64_t()> ask;
   int count = 0;
+  std::int64_t answer = 0;  ///< What the model told within the last notification.
 };
 
 // One test, since the model is one for the process and synchronises once.
 TEST(CurrentServerTimeModel, SynchronisesOnceAndAgainAfterTheTickCounterWrapped) {
   const WithManualClock manual;
-  Counter<CurrentServerTimeUpdateObject> counter(*CurrentServerTimeModel::getInstance());
   const auto time = [] {
     TsTime now;
     SystemTime().getTime(now);
     return now.getSeconds();
   };
+  Counter<CurrentServerTimeUpdateObject> counter(*CurrentServerTimeModel::getInstance(), time);
   manual.clock->ticks = 5000;
   EXPECT_EQ(time(), 4) << "five seconds after a time of -1";
-  CurrentServerTimeModel::setCurrentServerTime(TsTime(-1));
+  for (const int negative : {-1, -2}) CurrentServerTimeModel::setCurrentServerTime(TsTime(negative));
   EXPECT_EQ(time(), 4) << "a negative time is not taken";
-  CurrentServerTimeModel::setCurrentServerTime(TsTime(1000));
+  constexpr std::int64_t FAR = 5'000'000'000;
+  CurrentServerTimeModel::setCurrentServerTime(TsTime(FAR));
+  EXPECT_EQ(counter.answer, FAR) << "the notification comes after the change";
   manual.clock->ticks = 6500;
-  EXPECT_EQ(time(), 1001) << "one and a half seconds later";
+  EXPECT_EQ(time(), FAR + 1) << "one and a half seconds later";
   CurrentServerTimeModel::setCurrentServerTime(TsTime(7777));
-  EXPECT_EQ(time(), 1001) << "a second synchronisation is ignored";
-  EXPECT_EQ(counter.count, 3) << "every call notifies";
+  EXPECT_EQ(time(), FAR + 1) << "a second synchronisation is ignored";
+  EXPECT_EQ(counter.count, 4) << "every call notifies";
 
   manual.clock->ticks = 0;
-  EXPECT_EQ(time(), 1000 + ((std::int64_t{1} << 32) - 5000) / 1000) << "the counter has wrapped";
-  CurrentServerTimeModel::setCurrentServerTime(TsTime(2000));
-  EXPECT_EQ(time(), 2000) << "and the next time is taken";
+  EXPECT_EQ(time(), FAR + ((std::int64_t{1} << 32) - 5000) / 1000) << "the counter has wrapped";
+  CurrentServerTimeModel::setCurrentServerTime(TsTime(0));
+  EXPECT_EQ(time(), 0) << "and the next time is taken";
+  const LockProbe probe(*CurrentServerTimeModel::getInstance(), {time},
+                        [] { CurrentServerTimeModel::setCurrentServerTime(TsTime(1)); });
 }
 
 TEST(UserAccountModel, KeepsTheBalancesByPriority) {
   UserAccountModel& accounts = UserAccountModel::getUserAccountModel();
-  Counter<UserAccountUpdateObject> counter(accounts);
+  Counter<UserAccountUpdateObject> counter(
+      accounts, [&] { return accounts.getAccount(1).getAmount() + accounts.getAccount(2).getAmount(); });
   accounts.newPriorityList({Money(100, 1), Money(200, 2), Money(300, 1)});
-  EXPECT_EQ(counter.count, 1);
+  EXPECT_EQ(std::pair(counter.count, counter.answer), std::pair(1, std::int64_t{300}));
   accounts.addToAccount(Money(5, 1));
+  EXPECT_EQ(std::pair(counter.count, counter.answer), std::pair(2, std::int64_t{305}));
   accounts.setAccount(Money(50, 2));
-  EXPECT_EQ(counter.count, 3);
+  EXPECT_EQ(std::pair(counter.count, counter.answer), std::pair(3, std::int64_t{155}));
   accounts.addToAccount(Money(5, 9));
   accounts.setAccount(Money(5, 9));
   EXPECT_EQ(counter.count, 3) << "a unit without an account notifies nobody";
@@ -73,6 +85,12 @@ TEST(UserAccountModel, KeepsTheBalancesByPriority) {
   EXPECT_EQ(balance, Money(7, 7));
   EXPECT_TRUE(accounts.getAccountPrio(1, balance));
   EXPECT_EQ(balance, Money(50, 2));
+
+  Money there;
+  const Operations operations = {[&] { accounts.getAccount(1); }, [&] { accounts.getAccountPrio(0, there); },
+                                 [&] { accounts.newPriorityList({}); }, [&] { accounts.addToAccount(Money(1, 1)); },
+                                 [&] { accounts.setAccount(Money(1, 1)); }};
+  const LockProbe probe(accounts, operations, [&] { accounts.setAccount(Money(50, 2)); });
 }
 
 TEST(NodeTimer, SaysHowFarOffItIs) {
@@ -119,7 +137,9 @@ TEST(ResourceTexts, ComeFromTheResourcesAndAreReportedWhenTheyAreMissing) {
   const WithRecordingSink recording;
   const auto reports = [&] { return recording.sink->reports.size(); };
   ResourceManager& resources = ResourceManager::getInstance();
-  EXPECT_EQ(DateUtils::getMonthString(1), L"January");
+  for (const auto& [month, text] :
+       {std::pair(1, L"January"), {9, L"September"}, {10, L"October"}, {11, L"November"}, {12, L"December"}})
+    EXPECT_EQ(DateUtils::getMonthString(month), text);
   EXPECT_EQ(DateUtils::getAMPMString(true) + DateUtils::getAMPMString(false), L"AMPM");
   resources.addTexts(L"BuyInTexts", {{L"BuyInFormatString", L"{BUYIN} and {FEE}"}});
   EXPECT_EQ(TournamentBuyIn(Money(1000, 7), Money(100, 7)).getStringRepresentation(), L"1000 and 100");

@@ -97,6 +97,11 @@ TEST(TournamentRebuyModel, FollowsTheTermsTheUserAndThePeriods) {
     EXPECT_EQ(rebuys.getRebuyPeriodEndTime(), TsTime(end)) << milliseconds;
     EXPECT_EQ(rebuys.isInRebuyPeriod(), end >= 1000);
   }
+  rebuys.setUserRebuyInfo(2, 2000);
+  for (const int now : {1001, 1002, 1003}) {
+    manual.clock->calendar = now;
+    EXPECT_EQ(rebuys.isInRebuyPeriod(), now <= 1002) << now;
+  }
   rebuys.setRebuyPeriodEnded();
   EXPECT_TRUE(rebuys.hasUserInfo());
   EXPECT_EQ(rebuys.getRemainingUserRebuys(), 0);

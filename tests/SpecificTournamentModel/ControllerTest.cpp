@@ -1,20 +1,49 @@
 #include <gtest/gtest.h>
-#include <herald/SpecificTournamentModel/SpecificTournamentController.h>
-#include <herald/SpecificTournamentModel/SpecificTournamentsHandler.h>
-#include <herald/SpecificTournamentModel/TournamentUpdateObjects.h>
-#include <herald/platform/keystone/TypeName.h>
+#include <herald/SpecificTournamentModel/TournamentBreakModificationObjects.h>
+#include <herald/SpecificTournamentModel/TournamentInformationModificationObjects.h>
+#include <herald/SpecificTournamentModel/TournamentRankingModificationObjects.h>
+#include <herald/herald.h>
 #include <tests/SpecificTournamentModel/TournamentValues.h>
-#include <tests/support/Golden.h>
+#include <tests/support/LockProbe.h>
 #include <tests/support/ManualClock.h>
 #include <tests/support/RecordingSink.h>
+#include <tests/support/Told.h>
 
+#include <algorithm>
 #include <atomic>
+#include <cstddef>
 #include <memory>
 #include <thread>
-#include <tuple>
 
 namespace Tessel {
 namespace {
+
+// The sizes of the collections, seen under the lock.
+class Sizes : public TournamentRegisteredPlayersReader, public TournamentTablesReader {
+ public:
+  int readPlayers(const SpecificTournamentModel& model) { return model.readRegisteredPlayers(*this), size; }
+  int readTables(const SpecificTournamentModel& model) { return model.readTables(*this), size; }
+  void read(const TournamentRegisteredPlayers& players) override { size = players.getAllPlayerIds().size(); }
+  void read(const TournamentTables& tables) override { size = tables.getAllTableIds().size(); }
+
+  int size = 0;
+};
+
+// All that changes, but for the break state of the levels, whose changes are not told.
+std::string stateOf(const SpecificTournamentModel& model) {
+  const TournamentBaseModel basic = model.getBasicInformation();
+  const TournamentBreakModel breaks = model.getBreakInformation();
+  const TournamentPlayerRankingModel ranking = model.getPlayerRankingInformation();
+  const TournamentRebuyModel rebuys = model.getRebuyInfo();
+  return told(basic.getNumberOfEntrants(), basic.getNumberOfPlayersRemaining(), basic.getAverageChipStack(),
+              breaks.hasValidInfo(), breaks.isOnBreak(), breaks.hasValidInfo() && breaks.hasMoreBreaks(),
+              ranking.getRankedPlayers().size(), ranking.hasUserRanking(), rebuys.hasRebuys(), rebuys.hasAddons(),
+              rebuys.getRemainingUserRebuys(), rebuys.getRebuyPeriodEndTime().getSeconds(), rebuys.isInAddonPeriod(),
+              rebuys.isAfterAddonPeriod(), model.getLevelInformation().getLevelNumber(),
+              model.getNextLevelInformation().getLevelNumber(), Sizes().readPlayers(model), Sizes().readTables(model),
+              model.getTableRankedPlayers(4).size())
+         + valuesOf(model.getTourSummary()) + valuesOf(model.getPlayerInfo());
+}
 
 class Recorder : public MVCObserver {
  public:
@@ -28,6 +57,7 @@ class Recorder : public MVCObserver {
     for (const std::string_view rest : {"Tournament", "UpdateObject"}) part.erase(part.find(rest), rest.size());
     updates += ' ' + part;
     last.reset(update.clone());
+    seen = stateOf(model);
   }
 
   /// The parts of the model that the updates since the last call were about.
@@ -35,32 +65,42 @@ class Recorder : public MVCObserver {
 
   SpecificTournamentModel& model;
   std::string updates;
+  std::string seen;  ///< The state of the model within the last update.
   std::unique_ptr<NotificationUpdateObject> last;
 };
 
-// One with rebuys and an add-on.
-TourSummary summaryWithRebuys() {
-  ByteStream in(goldenCase("SpecificTourSummary").bytes);
-  TourSummary summary;
-  EXPECT_TRUE(summary.read(in));
-  return summary;
+// A summary with rebuys.
+TourSummary summaryWithRebuys(bool hasAddon = true) {
+  auto bytes = goldenCase("SpecificTourSummary").bytes;
+  const auto untilAddon = toBytes("00000029 FFFFFFFFFFFF5BF0");
+  const auto found = std::search(bytes.begin(), bytes.end(), untilAddon.begin(), untilAddon.end());
+  found[static_cast<std::ptrdiff_t>(untilAddon.size())] = hasAddon ? 1 : 0;
+  return read<TourSummary>(bytes);
 }
 
-TEST(SpecificTournamentController, EachPieceOfNewsNotifiesOfItsPart) {
+TourSummaryUpdate updateOfThatSummary() {
+  auto bytes = goldenCase("SpecificTourSummaryUpdate").bytes;
+  std::copy_n(goldenCase("SpecificTourSummary").bytes.begin(), 4, bytes.begin());  // the tournament's id
+  return read<TourSummaryUpdate>(bytes);
+}
+
+TEST(SpecificTournamentController, EachPieceOfNewsChangesItsPartAndThenNotifiesOfIt) {
   const WithManualClock manual;
+  const WithRecordingSink recording;
   manual.clock->calendar = 1000;
   SpecificTournamentModel model(42);
   SpecificTournamentController controller(model);
   Recorder recorder(model);
 
+  const SpecificLobbyPlayerInfo user = golden<SpecificTourSummary>().getPlayerInfo();
   const std::pair<std::function<void()>, std::string> rows[] = {
       {[&] { controller.tourGlobalInfo(TourSummary()); }, " GlobalInformation"},
       {[&] { controller.tourGlobalInfo(summaryWithRebuys()); }, " GlobalInformation Rebuy Rebuy"},
-      {[&] { controller.tourGlobalInfoUpdate(TourSummaryUpdate()); }, " GlobalInformation"},
       {[&] { controller.tournamentCancelled(); }, " GlobalInformation"},
       {[&] { controller.tournamentCancelled(); }, " GlobalInformation"},
+      {[&] { controller.tourGlobalInfoUpdate(updateOfThatSummary()); }, " GlobalInformation"},
       {[&] { controller.playersNotification(10, 7, 1500); }, " Base"},
-      {[&] { controller.playerInfo(SpecificLobbyPlayerInfo()); }, " PlayerInformation"},
+      {[&] { controller.playerInfo(user); }, " PlayerInformation"},
       {[&] { controller.userRankInfo(rankedPlayer(7, 3)); }, " PlayerRanking"},
       {[&] { controller.tourRankInfo({rankedPlayer(1, 1)}); }, " PlayerRanking"},
       {[&] { controller.levelInfo(TournamentLevelInformation(4)); }, " LevelInformation"},
@@ -85,12 +125,66 @@ TEST(SpecificTournamentController, EachPieceOfNewsNotifiesOfItsPart) {
   for (std::size_t i = 0; i < std::size(rows); ++i) {
     rows[i].first();
     EXPECT_EQ(recorder.take(), rows[i].second) << "row " << i;
+    if (rows[i].second.empty()) continue;
+    EXPECT_EQ(recorder.seen, stateOf(model)) << "row " << i;
   }
-  EXPECT_TRUE(model.getRebuyInfo().hasRebuys());
-  EXPECT_EQ(model.getRebuyInfo().getRebuyCost(), Money(-440, 44));
-  EXPECT_EQ(model.getRebuyInfo().getRebuyAmount(), Money(430, 43));
-  EXPECT_EQ(model.getRebuyInfo().getTotalNumberOfAddons(), 1);
-  EXPECT_EQ(model.getRebuyInfo().getAddonCost(), Money(460, -46));
+  const TourSummary summary = model.getTourSummary();
+  EXPECT_EQ(told(summary.getTournamentId(), summary.getMaximumNumberOfEntrants(), summary.getNumberOfEntrants()),
+            "1004 303 -2012");
+  EXPECT_EQ(valuesOf(model.getPlayerInfo()), valuesOf(user));
+  const TournamentBaseModel basic = model.getBasicInformation();
+  EXPECT_EQ(told(basic.getNumberOfEntrants(), basic.getNumberOfPlayersRemaining(), basic.getAverageChipStack(),
+                 model.getLevelInformation().getLevelNumber(), model.getNextLevelInformation().getLevelNumber()),
+            "10 7 1500 4 5");
+  const TournamentPlayerRankingModel ranking = model.getPlayerRankingInformation();
+  EXPECT_EQ(playerIds(ranking.getRankedPlayers()), std::vector<int>{1});
+  EXPECT_EQ(ranking.getUserRanking().getPlayerId(), 7);
+  controller.userRebuyInfo(3000, 2);
+  const TournamentRebuyModel rebuys = model.getRebuyInfo();
+  EXPECT_EQ(told(rebuys.hasRebuys(), rebuys.getTotalNumberOfRebuys(), rebuys.getRebuyCost(), rebuys.getRebuyAmount(),
+                 rebuys.getRebuyDuration(), rebuys.hasAddons(), rebuys.getTotalNumberOfAddons(), rebuys.getAddonCost(),
+                 rebuys.getAddonAmount(), rebuys.getRemainingUserRebuys(), rebuys.getRebuyPeriodEndTime().getSeconds()),
+            "1 41 -440/44 430/43 -42000 1 1 460/-46 450/45 2 1003");
+}
+
+// A change of the application's own that finds nothing to change.
+template <class Base, class Part>
+class NoChange : public Base {
+ public:
+  Base* clone() const override { return new NoChange(*this); }
+  bool modify(Part&) override { return false; }
+};
+
+TEST(SpecificTournamentModel, WhatChangesNothingIsNotTold) {
+  SpecificTournamentModel model(42);
+  Recorder recorder(model);
+  NoChange<TournamentBreakModificationObject, TournamentBreakModel> noBreak;
+  NoChange<TournamentPlayerRankingModificationObject, TournamentPlayerRankingModel> noRanking;
+  NoChange<TournamentGlobalInformationModificationObject, TourSummary> noSummary;
+  model.modifyBreakInformation(noBreak);
+  model.modifyPlayerRankingInformation(noRanking);
+  model.modifyGlobalInformation(noSummary);
+  EXPECT_EQ(recorder.take(), "");
+  SpecificTournamentController(model).tourGlobalInfo(summaryWithRebuys(false));
+  EXPECT_EQ(recorder.take(), " GlobalInformation Rebuy");
+  EXPECT_FALSE(model.getRebuyInfo().hasAddons());
+}
+
+TEST(SpecificTournamentModel, EveryOperationHoldsTheLock) {
+  SpecificTournamentModel model(42);
+  SpecificTournamentController news(model);
+  const auto asking = [&](auto... getters) { return Operations{[&model, getters] { (model.*getters)(); }...}; };
+  using Model = SpecificTournamentModel;
+  Operations operations =
+      asking(&Model::getBasicInformation, &Model::getBreakInformation, &Model::getPlayerRankingInformation,
+             &Model::getLevelInformation, &Model::getNextLevelInformation, &Model::getTourSummary,
+             &Model::getPlayerInfo, &Model::getRebuyInfo, &Model::tournamentCancelled, &Model::setAddonPeriodStarted);
+  operations.emplace_back([&] { model.getTableRankedPlayers(4); });
+  operations.emplace_back([&] { Sizes().readPlayers(model); });
+  operations.emplace_back([&] { Sizes().readTables(model); });
+  operations.emplace_back([&] { news.levelInfo(TournamentLevelInformation(4)); });
+  operations.emplace_back([&] { news.clearTables(); });
+  const LockProbe probe(model, operations, [&] { news.playersNotification(1, 2, 3); });
 }
 
 TEST(SpecificTournamentModel, UpdatesNameWhatTheBatchTouched) {
@@ -102,12 +196,15 @@ TEST(SpecificTournamentModel, UpdatesNameWhatTheBatchTouched) {
   controller.clearRegisteredPlayers();
   const auto& players = dynamic_cast<const TournamentRegisteredPlayersUpdateObject&>(*recorder.last);
   EXPECT_EQ(players.getModifiedPlayers(), (TsArray<int>{3, 5}));
+  controller.tournamentTablesUpdate({lobbyTable(8)}, {7});
   controller.tournamentTablesUpdate({lobbyTable(4)}, {9});
   const auto& tables = dynamic_cast<const TournamentTablesUpdateObject&>(*recorder.last);
   EXPECT_EQ(tables.getModifiedTables(), (TsArray<int>{4, 9}));
   controller.tournamentRankedPlayerList(4, {rankedPlayer(1, 1)});
   EXPECT_EQ(dynamic_cast<const TournamentTableRankedPlayersUpdateObject&>(*recorder.last).getTableId(), 4);
   EXPECT_EQ(playerIds(model.getTableRankedPlayers(4)), std::vector<int>{1});
+  controller.tournamentCancelled();
+  EXPECT_EQ(model.getTourSummary().getTournamentStatus().getValue(), AllowedTournamentStatus::CANCELLED);
 }
 
 TEST(SpecificTournamentModel, AbsentTables) {
@@ -151,16 +248,6 @@ TEST(SpecificTournamentsHandler, OneModelForEachTournamentUntilItIsDestroyed) {
   SpecificTournamentsHandler::destroyInstance();
 }
 
-// The sizes of the collections, seen under the lock.
-class Sizes : public TournamentRegisteredPlayersReader, public TournamentTablesReader {
- public:
-  void read(const TournamentRegisteredPlayers& players) override { playerCount = players.getAllPlayerIds().size(); }
-  void read(const TournamentTables& tables) override { tableCount = tables.getAllTableIds().size(); }
-
-  int playerCount = 0;
-  int tableCount = 0;
-};
-
 TEST(SpecificTournamentModel, ReadersNeverSeeHalfAChange) {
   SpecificTournamentModel model(42);
   std::atomic<bool> done = false;
@@ -170,15 +257,8 @@ TEST(SpecificTournamentModel, ReadersNeverSeeHalfAChange) {
       const TournamentBaseModel basic = model.getBasicInformation();
       const bool together = basic.getNumberOfPlayersRemaining() == basic.getNumberOfEntrants()
                             && basic.getAverageChipStack() == basic.getNumberOfEntrants();
-      Sizes sizes;
-      model.readRegisteredPlayers(sizes);
-      model.readTables(sizes);
       // Every batch adds or removes two players together.
-      if (!together || sizes.playerCount % 2 != 0) ++torn;
-      [[maybe_unused]] const std::tuple copies(model.getBreakInformation(), model.getPlayerRankingInformation(),
-                                               model.getLevelInformation(), model.getNextLevelInformation(),
-                                               model.getTourSummary(), model.getPlayerInfo(), model.getRebuyInfo(),
-                                               model.getTableRankedPlayers(4));
+      if (!together || Sizes().readPlayers(model) % 2 != 0) ++torn;
       const Recorder passingBy(model);
     }
   };
@@ -188,12 +268,6 @@ TEST(SpecificTournamentModel, ReadersNeverSeeHalfAChange) {
     controller.playersNotification(i, i, i);
     controller.updateRegisteredPlayers({lobbyPlayer(i), lobbyPlayer(i + 1)}, {});
     controller.updateRegisteredPlayers({}, {i, i + 1});
-    controller.tournamentTablesUpdate({lobbyTable(4)}, {});
-    controller.tournamentRankedPlayerList(4, {rankedPlayer(i, 1)});
-    controller.tourRankInfo({rankedPlayer(i, 1)});
-    controller.levelInfo(TournamentLevelInformation(i));
-    controller.breakInfo(i);
-    controller.userRebuyInfo(i, i);
   }
   done = true;
   for (std::thread& reader : readers) reader.join();
