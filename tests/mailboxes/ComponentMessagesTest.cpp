@@ -145,6 +145,7 @@ TEST(ComponentMessages, MessagesOwnWhatTheyCarry) {
   const ClientDataMessage data(1, 12, stream);
   stream.clear();
   EXPECT_EQ(data.getByteStream().GetSize(), 4);
+  EXPECT_EQ(std::pair(data.getConnectionId(), data.getPacketDescriptor()), std::pair(1, 12));
 
   const auto update = std::make_unique<TLCNotificationUpdate>(Update());
   const TLCNotificationUpdate updateCopy(*update);

@@ -104,7 +104,8 @@ TEST(Accessors, OfRecordsAnswerTheirFields) {
                  it.getCurrentBettingRound(), it.getNrPlayers(), it.getPlayerState(1).getBetsNotInPot(),
                  it.isPlayerAtTable(-9), it.isPlayerAtTable(9), it.getCardsInfo().getNrCards(), it.getHandId(),
                  it.getPokerGameInfo().getId(), it.getCurrentRake());
-  EXPECT_ANSWERS(TableInformation, it.getTableName(), it.getDescription(), it.getGameType() != nullptr);
+  EXPECT_ANSWERS(TableInformation, it.getTableName(), it.getDescription(), it.getGameType() != nullptr,
+                 it.getAmounts().at(1), it.getRounds().at(0).getAmount2(), it.getRounds().at(1).getAmount1());
   EXPECT_ANSWERS(PlayerSatDownInfo, it.getPlayerInGameInfo().getId(), it.getSeat());
   EXPECT_ANSWERS(ReserveMoneyReplyInfo, it.isStatusFail(), it.isStatusOk(), it.getPlayerInGameInfo().getId());
   EXPECT_ANSWERS(ClientSatInInfo, it.getPlayerID(), it.isNewSitIn(), it.isResittingIn());
@@ -152,9 +153,14 @@ TEST(Accessors, OfConstructedRecords) {
   EXPECT_EQ(valuesOf(ClientSatInInfo(7, ClientSatInStatus::RESITTING_IN)), "7 1");
   EXPECT_EQ(valuesOf(PokerSelfPlayerInfo(5, golden<SelfPlayerInfo>())), *goldenCase("SelfPlayerInfo").values + " 5");
   const PGSettings wanted(9, 6, PGSettings::JoinType{1}, L"ab", PokerGameInfo::GameSpeed{2});
-  EXPECT_EQ(told(wanted.getSettingId(), wanted.getMaxNumPlayers(), wanted.getJoinType(), wanted.getSpeed()), "9 6 1 2");
+  EXPECT_EQ(told(wanted.getSettingId(), wanted.getMaxNumPlayers(), wanted.getJoinType(),
+                 wanted.getDescription().getString(), wanted.getSpeed()),
+            "9 6 1 ab 2");
   const auto settings = read<PGSettingsInfo>("00000001 02 01 0001 41 0003 0000000000000005 000000000000000A");
-  EXPECT_EQ(told(settings.getGameType()->getValue(), settings.getLimitType()->getValue()), "2 1");
+  EXPECT_EQ(told(settings.getSettingId(), settings.getGameType()->getValue(), settings.getLimitType()->getValue(),
+                 settings.getDescription(), settings.getLimits().getLowerLimit(), settings.getLimits().getUpperLimit(),
+                 settings.getLimits().getMonetaryUnitId()),
+            "1 2 1 A 5 10 3");
 }
 
 TEST(Accessors, OfRecordsTakeValues) {
@@ -228,6 +234,9 @@ TEST(DiscardCardsInfo, IsWrittenWithUpTo127Cards) {
     const auto& reports = recording.sink->reports;
     DiscardCardsInfo discard;
     discard.setDiscardedCards(TsArray<int>(std::vector<int>(static_cast<std::size_t>(count), 5)));
+    TsArray<int> cards = {3};
+    discard.getDiscardedCards(cards);
+    EXPECT_EQ(told(cards.size(), cards.at(count - 1)), told(count, 5));
     ByteStream out;
     EXPECT_EQ(discard.write(out), count == 127);
     ASSERT_EQ(reports.size(), count == 127 ? 0u : 1u);
@@ -235,6 +244,22 @@ TEST(DiscardCardsInfo, IsWrittenWithUpTo127Cards) {
       EXPECT_EQ(reports[0].getText(), L"A list of 128 items is too long for its count.");
     }
   }
+}
+
+TEST(InfoList, StartsAfreshWithEachRead) {
+  const WithRecordingSink recording;
+  auto texts = read<InfoList<TsString>>("0002 0001 61 0001 62");
+  ByteStream again(toBytes("0001 0001 FF"));
+  EXPECT_TRUE(texts.read(again));
+  EXPECT_EQ(valuesOf(texts), "(1 \"\")") << "the text that is no text has nothing of the one before";
+}
+
+TEST(InfoVector, AppendsWhatItReads) {
+  auto vector = golden<InfoVector>();
+  ByteStream again(goldenCase("InfoVector").bytes);
+  EXPECT_TRUE(vector.read(again));
+  ASSERT_EQ(vector.size(), 4);
+  EXPECT_EQ(valuesOf(vector[3]), valuesOf(vector[1]));
 }
 
 TEST(DealtCardsInfo, KnowsTheDealTypesZeroToNine) {
@@ -348,37 +373,28 @@ TEST(InfoArray, IsReadWholeOrThrows) {
 }
 
 TEST(IndexedAccessors, RefuseWhatLiesOutside) {
-  const auto cards = golden<CardsInfo>();
-  const auto request = golden<BetRequestInfo>();
-  const auto actions = golden<PlayerActionsInfo>();
-  const auto hand = golden<HandValueInfo>();
-  const auto state = golden<PokerGameStateInfo>();
-  const auto rules = golden<PokerRulesInfo>();
-  const auto games = golden<GameIdInfo>();
-  const auto node = golden<TreeNodeInfo>();
   const auto list = read<InfoList<TesselInt>>("0001 00000005");
   const auto none = read<InfoList<TesselInt>>("FFFE");
-  const auto vector = golden<InfoVector>();
   TesselIntBitMask mask(0);
   const struct {
     std::wstring source;
     int count;
     std::function<void(int)> get;
   } cases[] = {
-      {L"CardsInfo", 2, [&](int i) { cards.getCardInfo(i); }},
-      {L"CardsInfo", 2, [&](int i) { cards.isWinningCard(i); }},
-      {L"BetRequestInfo", 2, [&](int i) { request.getReqSeat(i); }},
-      {L"BetRequestInfo", 2, [&](int i) { request.getPlayerActionsInfo(i); }},
-      {L"PlayerActionsInfo", 2, [&](int i) { actions.getBet(i); }},
-      {L"HandValueInfo", 2, [&](int i) { hand.getSpecifiedCard(i); }},
-      {L"PokerGameStateInfo", 2, [&](int i) { state.getPlayerState(i); }},
-      {L"PokerRulesInfo", 2, [&](int i) { rules.getChipStackValue(i); }},
-      {L"GameIdInfo", 2, [&](int i) { games.getId(i); }},
-      {L"TreeNodeInfo", 2, [&](int i) { node.getSubNode(i); }},
+      {L"CardsInfo", 2, [](int i) { golden<CardsInfo>().getCardInfo(i); }},
+      {L"CardsInfo", 2, [](int i) { golden<CardsInfo>().isWinningCard(i); }},
+      {L"BetRequestInfo", 2, [](int i) { golden<BetRequestInfo>().getReqSeat(i); }},
+      {L"BetRequestInfo", 2, [](int i) { golden<BetRequestInfo>().getPlayerActionsInfo(i); }},
+      {L"PlayerActionsInfo", 2, [](int i) { golden<PlayerActionsInfo>().getBet(i); }},
+      {L"HandValueInfo", 2, [](int i) { golden<HandValueInfo>().getSpecifiedCard(i); }},
+      {L"PokerGameStateInfo", 2, [](int i) { golden<PokerGameStateInfo>().getPlayerState(i); }},
+      {L"PokerRulesInfo", 2, [](int i) { golden<PokerRulesInfo>().getChipStackValue(i); }},
+      {L"GameIdInfo", 2, [](int i) { golden<GameIdInfo>().getId(i); }},
+      {L"TreeNodeInfo", 2, [](int i) { golden<TreeNodeInfo>().getSubNode(i); }},
       {L"InfoList", 1, [&](int i) { list[i]; }},
       {L"InfoList", -2, [&](int i) { none[i]; }},
-      {L"InfoVector", 2, [&](int i) { vector[i]; }},
-      {L"TesselIntBitMask", 32, [&](int i) { mask.setBit(i); }},
+      {L"InfoVector", 2, [](int i) { golden<InfoVector>()[i]; }},
+      {L"TesselIntBitMask", 32, [&](int i) { mask.setBit(i, false); }},
       {L"TesselIntBitMask", 32, [&](int i) { EXPECT_TRUE(mask.getBit(i)); }},
   };
   for (const auto& [source, count, get] : cases) {

@@ -1,10 +1,5 @@
 #include <gtest/gtest.h>
-#include <herald/messages/ClientMessageFactory.h>
-#include <herald/messages/ClientMessageTable.h>
-#include <herald/messages/info_objects/GameInfoList.h>
-#include <herald/platform/keystone/ByteStream.h>
-#include <herald/platform/keystone/Exceptions.h>
-#include <herald/platform/keystone/UTFEncoder.h>
+#include <herald/herald.h>
 #include <tests/support/AllocationCount.h>
 #include <tests/support/Notation.h>
 #include <tests/support/RecordingSink.h>

@@ -196,10 +196,10 @@ TEST(GameInfo, IsWrittenWithAWideMonetaryUnit) {
   ByteStream in, out, expected;
   auto game = decode<GameInfo>(appendGame(in, 7, -3));
   EXPECT_FALSE(game.isFull());
-  game.setNrPlayers(9);
+  game.setNrPlayers(10);
   EXPECT_TRUE(game.isFull());
   EXPECT_TRUE(game.write(out));
-  expected << 7 << L"game" << number16(9) << number16(9) << number16(4) << -3 << 80 << 6;
+  expected << 7 << L"game" << number16(10) << number16(9) << number16(4) << -3 << 80 << 6;
   EXPECT_TRUE(std::ranges::equal(out.bytes(), expected.bytes()));
 }
 
@@ -319,7 +319,7 @@ TEST_F(MonetaryRecords, AnswerDefaultsBeyondTheirEnds) {
             "4 -1 1  100 -1");
 
   const auto balances = golden<AccountBalanceInfo>();
-  EXPECT_EQ(told(balances.getAccountBalance(1), balances.getAccountBalance(5), balances.getAccountBalance(-1)),
+  EXPECT_EQ(told(balances.getAccountBalance(1), balances.getAccountBalance(2), balances.getAccountBalance(-1)),
             "174/-173 0/-1 0/-1");
 }
 

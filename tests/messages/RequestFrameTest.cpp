@@ -59,6 +59,8 @@ TEST(RequestFrame, IsWrittenWholeOrNotAtAll) {
   const std::wstring tooLong(65536, L'x');
   const std::wstring big(32768 - 2, L'x');
   const std::wstring fits(32767 - 4, L'x');
+  const PlayerInfo player(1, L"n", L"c", 2, 3, L"t");
+  const std::wstring rest(32767 - 2 - static_cast<std::size_t>(player.size()), L'x');
   const std::unique_ptr<ServerMessage> unwritable[] = {
       std::make_unique<TestRequest>(32768),
       std::make_unique<TestRequest>(65540),
@@ -71,9 +73,9 @@ TEST(RequestFrame, IsWrittenWholeOrNotAtAll) {
       std::make_unique<ServerGlobalChatMsg>(L"", tooLong),
       std::make_unique<ServerGlobalChatMsg>(L"", big),
       std::make_unique<PGJoinGameReq>(PlayerInfo(1, L"n", L"c", 2, 3, lone), L"text"),
-      std::make_unique<PGJoinGameReq>(PlayerInfo(1, L"n", L"c", 2, 3, L"t"), lone),
-      std::make_unique<PGJoinGameReq>(PlayerInfo(1, L"n", L"c", 2, 3, L"t"), big),
-      std::make_unique<PGJoinGameReq>(PlayerInfo(1, L"n", L"c", 2, 3, L"t"), tooLong),
+      std::make_unique<PGJoinGameReq>(player, lone),
+      std::make_unique<PGJoinGameReq>(player, rest + L"x"),
+      std::make_unique<PGJoinGameReq>(player, tooLong),
   };
   for (const auto& request : unwritable) {
     SCOPED_TRACE(&request - unwritable);
@@ -92,6 +94,7 @@ TEST(RequestFrame, IsWrittenWholeOrNotAtAll) {
   EXPECT_THROW(TestRequest([](ByteStream&) { throw std::bad_alloc(); }).write(out), std::bad_alloc);
   EXPECT_EQ(toHex(out.bytes()), "01");
   EXPECT_EQ(frameOf(ServerGlobalChatMsg(L"", fits)).substr(0, 16), "FFDC7FFF00007FFB");
+  EXPECT_EQ(frameOf(PGJoinGameReq(player, rest)).size(), 2 * (4 + 32767u));
 }
 
 TEST(ServerMessageTable, EveryRequestWritesTheFrameThatItsRowAndItsFieldsTell) {
