@@ -1,9 +1,5 @@
 #include <gtest/gtest.h>
-#include <herald/inspect/Catalogue.h>
-#include <herald/messages/ClientMessageTable.h>
-#include <herald/messages/ServerMessageTable.h>
-#include <herald/messages/info_objects/InfoVector.h>
-#include <herald/platform/keystone/UTFEncoder.h>
+#include <herald/herald.h>
 
 #include <algorithm>
 #include <fstream>

@@ -112,7 +112,7 @@ TEST(InspectTest, MasksSecretsUnlessAsked) {
 }
 
 TEST(InspectTest, ListsFieldsWithTheirPaths) {
-  const DecodedMessage win = decode(17, "01 00 00000007 03 0000000000000005 03 00 05 01 33");
+  const DecodedMessage win = decode(17, "01 00 00000007 03 0000000000000005 03 00 05 02 33 34");
   const struct {
     std::string_view path;
     FieldKind kind;
@@ -130,8 +130,9 @@ TEST(InspectTest, ListsFieldsWithTheirPaths) {
       {"pots[0].handValue.playerSeat", FieldKind::NUMBER, WireType::BYTE, "3"},
       {"pots[0].handValue.handType", FieldKind::NUMBER, WireType::BYTE, "0"},
       {"pots[0].handValue.handValue", FieldKind::NUMBER, WireType::BYTE, "5"},
-      {"pots[0].handValue.specifiedCards", FieldKind::LIST, WireType::BYTE, "1"},
+      {"pots[0].handValue.specifiedCards", FieldKind::LIST, WireType::BYTE, "2"},
       {"pots[0].handValue.specifiedCards[0]", FieldKind::NUMBER, WireType::BYTE, "51"},
+      {"pots[0].handValue.specifiedCards[1]", FieldKind::NUMBER, WireType::BYTE, "52"},
   };
   const FieldList fields(*win.message);
   ASSERT_EQ(fields.size(), std::size(expected));

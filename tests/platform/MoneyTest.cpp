@@ -1,8 +1,5 @@
 #include <gtest/gtest.h>
-#include <herald/platform/keystone/Exceptions.h>
-#include <herald/platform/keystone/Money.h>
-#include <herald/platform/keystone/MoneyLimit.h>
-#include <herald/platform/keystone/MoneyModel.h>
+#include <herald/herald.h>
 
 #include <limits>
 #include <thread>

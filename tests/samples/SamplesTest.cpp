@@ -1,8 +1,5 @@
 #include <gtest/gtest.h>
-#include <herald/messages/ClientMessageFactory.h>
-#include <herald/messages/ClientMessageTable.h>
-#include <herald/messages/ServerMessageTable.h>
-#include <herald/platform/keystone/ByteStream.h>
+#include <herald/herald.h>
 
 #include <cstdint>
 #include <cstdlib>
@@ -13,6 +10,7 @@
 #include <span>
 #include <stdexcept>
 #include <string>
+#include <utility>
 #include <vector>
 
 using namespace Tessel;
@@ -67,42 +65,27 @@ std::vector<Packet> readCapture(const std::string& name) {
   return packets;
 }
 
-class Samples : public testing::TestWithParam<std::string> {};
-INSTANTIATE_TEST_SUITE_P(All, Samples, testing::ValuesIn(NAMES),
-                         [](const auto& sample) { return std::filesystem::path(sample.param).stem().string(); });
-
-TEST_P(Samples, ServerMessagesDecodeToTheirLastByte) {
-  for (const Packet& packet : readCapture(GetParam())) {
-    if (packet.direction != SERVER_TO_CLIENT) continue;
-    ByteStream body(packet.rest);
-    const DecodedMessage decoded = ClientMessageFactory::decode(packet.id, body);
-    EXPECT_EQ(decoded.outcome, DecodeOutcome::DECODED) << "id " << packet.id;
-    EXPECT_EQ(decoded.bytesRead, packet.rest.size()) << "id " << packet.id;
-  }
-}
-
-TEST_P(Samples, RequestFramesStateTheirSize) {
-  for (const Packet& packet : readCapture(GetParam())) {
-    if (packet.direction == SERVER_TO_CLIENT) continue;
-    ASSERT_EQ(packet.direction, CLIENT_TO_SERVER);
-    EXPECT_NE(findServerMessageRow(packet.id), nullptr) << "id " << packet.id;
-    ASSERT_GE(packet.rest.size(), 2U);
-    EXPECT_EQ(packet.rest[0] << 8 | packet.rest[1], static_cast<int>(packet.rest.size()) - 2) << "id " << packet.id;
-  }
-}
-
-TEST_P(Samples, TimeStampsAscend) {
-  std::int64_t last = 0;
-  for (const Packet& packet : readCapture(GetParam())) {
-    EXPECT_GT(packet.microseconds, last);
-    last = packet.microseconds;
-  }
-}
-
-TEST(SampleSet, UsesEveryMessageAndEveryRequest) {
+TEST(Samples, AreSoundAndUseEveryMessageAndEveryRequest) {
   std::set<int> seen[2];
-  for (const std::string& name : NAMES)
-    for (const Packet& packet : readCapture(name)) seen[packet.direction == CLIENT_TO_SERVER].insert(packet.id);
+  for (const std::string& name : NAMES) {
+    std::int64_t last = 0;
+    for (const Packet& packet : readCapture(name)) {
+      SCOPED_TRACE(name + " id " + std::to_string(packet.id));
+      EXPECT_GT(packet.microseconds, std::exchange(last, packet.microseconds));
+      seen[packet.direction == CLIENT_TO_SERVER].insert(packet.id);
+      if (packet.direction == SERVER_TO_CLIENT) {
+        ByteStream body(packet.rest);
+        const DecodedMessage decoded = ClientMessageFactory::decode(packet.id, body);
+        EXPECT_EQ(decoded.outcome, DecodeOutcome::DECODED);
+        EXPECT_EQ(decoded.bytesRead, packet.rest.size());
+        continue;
+      }
+      ASSERT_EQ(packet.direction, CLIENT_TO_SERVER);
+      EXPECT_NE(findServerMessageRow(packet.id), nullptr);
+      ASSERT_GE(packet.rest.size(), 2u);
+      EXPECT_EQ(packet.rest[0] << 8 | packet.rest[1], static_cast<int>(packet.rest.size()) - 2);
+    }
+  }
   for (const ClientMessageRow& row : clientMessageTable())
     EXPECT_TRUE(!row.create || seen[0].contains(row.id)) << row.id << ' ' << row.name;
   for (const ServerMessageRow& row : serverMessageTable())
@@ -110,7 +93,7 @@ TEST(SampleSet, UsesEveryMessageAndEveryRequest) {
 }
 
 #ifdef HERALD_MAKE_SAMPLES
-TEST(SampleSet, IsMadeAgainByteForByte) {
+TEST(Samples, AreMadeAgainByteForByte) {
   const std::filesystem::path folder = testing::TempDir() + "herald_samples";
   std::filesystem::create_directories(folder);
   const std::string command = std::string("\"") + HERALD_MAKE_SAMPLES + "\" \"" + folder.string() + "\"";

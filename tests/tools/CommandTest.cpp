@@ -197,6 +197,9 @@ TEST(CommandTest, TellsThatTheOutputIsFull) {
     EXPECT_EQ(outcome.status, 1);
     EXPECT_EQ(outcome.err, "herald: standard output: No space left on device\n");
   }
+  const std::string complaint = run("decode FILE", capture({BET_DONE, ""}), "/dev/full").err;
+  EXPECT_TRUE(complaint.ends_with("herald: standard output: Input/output error\n"))
+      << "the complaint has put out the lines before it: " << complaint;
 }
 
 TEST(CommandTest, EndsWhenNobodyReadsItsOutput) {
@@ -217,6 +220,7 @@ TEST(CommandTest, CountsByClass) {
   EXPECT_EQ(outcome.status, 0);
   EXPECT_EQ(outcome.err, "");
   for (const char* row : {
+           "ClientBetDone.*\nAdminNotificationMsg.*\n\\(no message",  // the most bytes first
            "ClientBetDone +3 +28 +58\\.3% +1\n",
            "AdminNotificationMsg +1 +13 +27\\.1% +0\n",
            "\\(no message for id 36\\) +1 +7 +14\\.6% +0\n",
@@ -228,6 +232,9 @@ TEST(CommandTest, CountsByClass) {
        })
     EXPECT_TRUE(std::regex_search(outcome.out, std::regex(row))) << row << "in\n" << outcome.out;
   EXPECT_EQ(run("stats FILE", capture({})).status, 0);
+  // More than are decoded at a time.
+  const std::string many = run("stats FILE", capture(std::vector<std::string>(2500, BET_DONE))).out;
+  EXPECT_TRUE(std::regex_search(many, std::regex("ClientBetDone +2500 +32500 "))) << many;
 }
 
 TEST(CommandTest, PrintsWhatThereIs) {
