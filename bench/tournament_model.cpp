@@ -42,7 +42,7 @@ void replaceRanking(benchmark::State& state) {
   state.SetItemsProcessed(state.iterations() * state.range(0));
 }
 
-BENCHMARK(changeTenPlayers)->Arg(100)->Arg(10'000)->Arg(1'000'000);
-BENCHMARK(replaceRanking)->Arg(100)->Arg(32'767);
+BENCHMARK(changeTenPlayers)->Name("model/changeTenPlayers")->Arg(100)->Arg(10'000)->Arg(1'000'000);
+BENCHMARK(replaceRanking)->Name("model/replaceRanking")->Arg(100)->Arg(32'767);
 
 }  // namespace
