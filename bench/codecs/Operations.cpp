@@ -1,6 +1,9 @@
 #include <bench/codecs/Operations.h>
 
 #include <algorithm>
+#include <cstdlib>
+#include <exception>
+#include <iostream>
 #include <stdexcept>
 
 namespace Bench {
@@ -13,6 +16,21 @@ void requireEqual(const std::string& what, const Values& one, const Values& othe
   };
   throw std::runtime_error(what + " differs at value " + std::to_string(in - one.begin()) + ": " + shown(one, in)
                            + " and " + shown(other, out));
+}
+
+void runBenchmarks(const Operations& operations, int argc, char** argv) {
+  for (const Operation& operation : operations) benchmark::RegisterBenchmark(operation.name.c_str(), operation.time);
+  benchmark::Initialize(&argc, argv);
+  if (benchmark::ReportUnrecognizedArguments(argc, argv)) throw std::invalid_argument("no such option");
+  benchmark::RunSpecifiedBenchmarks();
+}
+
+int runMain(const std::function<void()>& work) try {
+  work();
+  return EXIT_SUCCESS;
+} catch (const std::exception& failure) {
+  std::cerr << "error: " << failure.what() << '\n';
+  return EXIT_FAILURE;
 }
 
 #ifndef HERALD_BENCH_PROTOBUF

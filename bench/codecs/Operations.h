@@ -55,7 +55,10 @@ References addHerald(Operations& operations);
 /// The same by protobuf. Does nothing where protobuf was not found.
 void addProtobuf(Operations& operations, const References& references);
 
-/// Decoding of lists and trees of more and more items: "growth/Tree/1000/herald".
-void addGrowth(Operations& operations);
+/// Measures the operations as the program's arguments say.
+void runBenchmarks(const Operations& operations, int argc, char** argv);
+
+/// The work of a program, whose exit code it answers; says why when it fails.
+int runMain(const std::function<void()>& work);
 
 }  // namespace Bench

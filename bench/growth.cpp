@@ -1,3 +1,5 @@
+// Decoding of lists and trees of more and more items: "growth/Tree/1000/herald".
+
 #include <bench/codecs/FloorValues.h>
 #include <bench/codecs/HeraldCodec.h>
 #include <herald/platform/keystone/UTFEncoder.h>
@@ -5,11 +7,10 @@
 #include <algorithm>
 #include <memory>
 
-namespace Bench {
-
-using namespace Tessel;
-
 namespace {
+
+using namespace Bench;
+using namespace Tessel;
 
 Bytes bytesOf(const ByteStream& stream) { return {stream.bytes().begin(), stream.bytes().end()}; }
 
@@ -60,9 +61,11 @@ void addSizes(Operations& operations, const std::string& kind, int id, Bytes (*m
 
 }  // namespace
 
-void addGrowth(Operations& operations) {
-  addSizes<Floor::GameList>(operations, "GameList", -9, gameList, {10, 100, 1000, 10'000, 30'000});
-  addSizes<Floor::TreeNode>(operations, "Tree", -64, tree, {10, 100, 1000, 10'000, 100'000, 1'000'000});
+int main(int argc, char** argv) {
+  return runMain([&] {
+    Operations operations;
+    addSizes<Floor::GameList>(operations, "GameList", -9, gameList, {10, 100, 1000, 10'000, 30'000});
+    addSizes<Floor::TreeNode>(operations, "Tree", -64, tree, {10, 100, 1000, 10'000, 100'000, 1'000'000});
+    runBenchmarks(operations, argc, argv);
+  });
 }
-
-}  // namespace Bench
