@@ -27,6 +27,9 @@ ROWS = [
     Row("decode/TourChanges/herald", "decode/TourChanges/floor", most=0.35, protobuf=8),
     Row("decode/Tree200/herald", "decode/Tree200/floor", most=0.60, protobuf=8),
     Row("decode/PlayerList500/herald", "decode/PlayerList500/floor", most=0.70, protobuf=8),
+    Row("decode/JoinTournament/herald", "decode/JoinTournament/floor"),
+    Row("decode/ChatMsg/herald", "decode/ChatMsg/floor"),
+    Row("decode/Empty/herald"),
     Row("encode/InTurnAction/herald", "encode/InTurnAction/floor", protobuf=3),
     Row("encode/JoinTournament/herald", "encode/JoinTournament/floor", protobuf=4),
     Row("encode/ChatMsg/herald", "encode/ChatMsg/floor", protobuf=2.5),
@@ -182,7 +185,7 @@ def plot(median):
               for row in rows for who in ("protobuf", "herald") if f"{row}/{who}" in median]
     lowest = math.floor(math.log2(min(0.5, *(ratio for _, _, ratio in points))))
     highest = math.ceil(math.log2(max(2, *(ratio for _, _, ratio in points))))
-    left, right, top, step = 170, 730, 64, 30
+    left, right, top, step = 190, 730, 64, 30
     bottom = top + step * len(rows)
 
     def x(ratio):

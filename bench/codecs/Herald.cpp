@@ -52,9 +52,7 @@ class Samples {
 
   // A message from a server.
   void receive(int id) {
-    const std::shared_ptr<const ClientMessage> message = decodeChecked(id, body_);
-    compare(*message);
-    add("decode", "herald", [id, body = body_] { benchmark::DoNotOptimize(decode(id, body)); });
+    const std::shared_ptr<const ClientMessage> message = addDecoding(id);
     add("text", "herald", [message] { benchmark::DoNotOptimize(message->toDebugString()); });
     add("json", "herald", [message] { benchmark::DoNotOptimize(toJson(*message)); });
     add("encode", "herald", [message, out = ByteStream()]() mutable {
@@ -62,6 +60,14 @@ class Samples {
       encode(*message, out);
       benchmark::ClobberMemory();
     });
+  }
+
+  std::shared_ptr<const ClientMessage> addDecoding(int id) {
+    std::shared_ptr<const ClientMessage> message = decodeChecked(id, body_);
+    compare(*message);
+    add("decode", "herald", [id, body = body_] { benchmark::DoNotOptimize(decode(id, body)); });
+    add("decode", "floor", [body = body_] { benchmark::DoNotOptimize(Floor::read<FloorMessage>(body)); });
+    return message;
   }
 
   // A request of the client, made from what the floor reads of it.
@@ -94,7 +100,6 @@ class Samples {
     Values values = valuesOf(message);
     requireEqual(name_ + ", Herald and the floor,", values, valuesOfFloor<FloorMessage>(body_));
     references_[name_] = {std::move(values), jsonOf(message)};
-    add("decode", "floor", [body = body_] { benchmark::DoNotOptimize(Floor::read<FloorMessage>(body)); });
   }
 
   void add(const char* what, const char* who, auto work) { Bench::add(operations_, what, name_, who, std::move(work)); }
@@ -155,6 +160,13 @@ void addDelivery(Operations& operations) {
       [plainMessage, counter] { deliver(plainMessage.get(), counter.get()); });
 }
 
+// What is left when there is no body.
+void addEmpty(Operations& operations) {
+  constexpr int PLAYER_SLOW_CONNECTION = -88;
+  decodeChecked(PLAYER_SLOW_CONNECTION, {});
+  add(operations, "decode", "Empty", "herald", [] { benchmark::DoNotOptimize(decode(PLAYER_SLOW_CONNECTION, {})); });
+}
+
 // Memory for a message of that size, and back.
 void addMalloc(Operations& operations) {
   add(operations, "decode", "BetDone", "malloc", [] {
@@ -194,12 +206,17 @@ References addHerald(Operations& operations) {
     return ServerInTurnAction(action.playerId, action.seat, action.betRound,
                               InTurnAction::InTurnActionType{action.actionType}, action.amount);
   });
-  Samples<Floor::JoinTournament>(operations, references, "JoinTournament").send([](const Floor::JoinTournament& join) {
+  Samples<Floor::JoinTournament> joinTournament(operations, references, "JoinTournament");
+  joinTournament.addDecoding(308);  // the server's reply has the same body
+  joinTournament.send([](const Floor::JoinTournament& join) {
     return TournamentJoinRequestMsg(join.playerId, join.tournamentId, UTFEncoder::toWide(join.password));
   });
-  Samples<Floor::ChatMessage>(operations, references, "ChatMsg").send([](const Floor::ChatMessage& chat) {
+  Samples<Floor::ChatMessage> chatMsg(operations, references, "ChatMsg");
+  chatMsg.addDecoding(-23);
+  chatMsg.send([](const Floor::ChatMessage& chat) {
     return ServerChatMsg(ChatMessage(UTFEncoder::toWide(chat.nickname), UTFEncoder::toWide(chat.message)));
   });
+  addEmpty(operations);
   addDelivery(operations);
   addMalloc(operations);
   return references;
