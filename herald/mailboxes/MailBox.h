@@ -41,16 +41,19 @@ class HERALD_API MailBox {
   /// The oldest message, which is the caller's now, or null when there is none.
   [[nodiscard]] T* pickup();
   [[nodiscard]] std::unique_ptr<T> pickupOwned() { return std::unique_ptr<T>(pickup()); }
-  /// All that is queued, the oldest first, taken under one lock.
+  /// All that is queued, the oldest first, taken under one lock. The post office is told of each when all are out.
   [[nodiscard]] std::vector<std::unique_ptr<T>> pickupAll();
 
  private:
   // While the mailbox calls out under its lock, what it calls may come back on the same thread. Noting the thread only
-  // then makes the lock recursive at the price of a plain one.
+  // then makes the lock recursive at the price of a plain one. It takes no order among threads: the one value that a
+  // thread acts on is the one that it wrote itself.
   class CallingOut {
    public:
-    explicit CallingOut(MailBox& box) : box_(box), outer_(box.calling_.exchange(std::this_thread::get_id())) {}
-    ~CallingOut() { box_.calling_ = outer_; }
+    explicit CallingOut(MailBox& box) : box_(box), outer_(box.calling_.load(std::memory_order_relaxed)) {
+      box.calling_.store(std::this_thread::get_id(), std::memory_order_relaxed);
+    }
+    ~CallingOut() { box_.calling_.store(outer_, std::memory_order_relaxed); }
     CallingOut(const CallingOut&) = delete;
     CallingOut& operator=(const CallingOut&) = delete;
 
@@ -64,18 +67,20 @@ class HERALD_API MailBox {
     return calling != std::thread::id() && calling == std::this_thread::get_id();
   }
 
-  template <class Work>
-  auto locked(Work work) {
-    if (isCalledBack()) [[unlikely]]
-      return work();
-    const std::lock_guard guard(lock_);
-    return work();
+  // Held by the operation that makes it, unless a caller further up on this thread holds it already.
+  std::unique_lock<std::mutex> hold() {
+    return isCalledBack() ? std::unique_lock<std::mutex>() : std::unique_lock(lock_);
   }
 
   void tell(void (PostOffice::*event)()) {
-    if (postOffice_ != nullptr) callOut(event);
+    if (postOffice_ == nullptr) return;
+    const CallingOut callingOut(*this);
+    try {
+      (postOffice_->*event)();
+    } catch (...) {
+      reportCurrentException(L"mailboxes/MailBox");
+    }
   }
-  void callOut(void (PostOffice::*event)());
   T* takeOldest();
 
   std::mutex lock_;
@@ -86,25 +91,24 @@ class HERALD_API MailBox {
 
 template <class T, int N>
 inline void MailBox<T, N>::post(T* message) {
-  locked([&] {
-    queue_.push(message);
-    tell(&PostOffice::post);
-  });
+  const auto held = hold();
+  queue_.push(message);
+  tell(&PostOffice::post);
 }
 
 template <class T, int N>
 inline void MailBox<T, N>::post(std::unique_ptr<T> message) {
-  locked([&] {
-    queue_.push(message.get());
-    static_cast<void>(message.release());
-    tell(&PostOffice::post);
-  });
+  const auto held = hold();
+  queue_.push(message.get());
+  static_cast<void>(message.release());
+  tell(&PostOffice::post);
 }
 
 template <class T, int N>
 inline T* MailBox<T, N>::pickup() {
   if (isEmpty()) return nullptr;  // so that a consumer who polls does not hold up those who post
-  return locked([&] { return queue_.isEmpty() ? nullptr : takeOldest(); });
+  const auto held = hold();
+  return queue_.isEmpty() ? nullptr : takeOldest();
 }
 
 template <class T, int N>
@@ -116,34 +120,20 @@ inline T* MailBox<T, N>::takeOldest() {
 
 template <class T, int N>
 MailBox<T, N>::~MailBox() {
-  locked([&] {
-    const CallingOut messageDestructors(*this);
-    while (!queue_.isEmpty()) {
-      std::unique_ptr<T>(queue_.pop()).reset();
-      tell(&PostOffice::pickup);
-    }
-  });
+  const auto held = hold();
+  const CallingOut messageDestructors(*this);
+  while (!queue_.isEmpty()) {
+    std::unique_ptr<T>(queue_.pop()).reset();
+    tell(&PostOffice::pickup);
+  }
 }
 
 template <class T, int N>
 std::vector<std::unique_ptr<T>> MailBox<T, N>::pickupAll() {
-  return locked([&] {
-    std::vector<std::unique_ptr<T>> messages;
-    messages.reserve(static_cast<std::size_t>(queue_.size()));
-    // What the post office posts meanwhile stays: the list never has to grow with a message in hand.
-    while (messages.size() < messages.capacity() && !queue_.isEmpty()) messages.emplace_back(takeOldest());
-    return messages;
-  });
-}
-
-template <class T, int N>
-void MailBox<T, N>::callOut(void (PostOffice::*event)()) {
-  const CallingOut callingOut(*this);
-  try {
-    (postOffice_->*event)();
-  } catch (...) {
-    reportCurrentException(L"mailboxes/MailBox");
-  }
+  const auto held = hold();
+  std::vector<std::unique_ptr<T>> messages = queue_.popAll();
+  for (std::size_t told = 0; postOffice_ != nullptr && told < messages.size(); ++told) tell(&PostOffice::pickup);
+  return messages;
 }
 
 }  // namespace Tessel

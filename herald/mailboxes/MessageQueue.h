@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <memory>
 #include <utility>
+#include <vector>
 
 namespace Tessel {
 
@@ -16,8 +17,6 @@ class MessageQueue {
     const std::uint32_t popped = popped_.load(std::memory_order_acquire);
     return posted_.load(std::memory_order_acquire) == popped;
   }
-
-  int size() const { return static_cast<int>(posted() - popped()); }
 
   /// When memory runs out, `std::bad_alloc` leaves the queue as it was.
   void push(T* message) {
@@ -33,6 +32,17 @@ class MessageQueue {
     T* const message = at(number);
     popped_.store(number + 1, std::memory_order_release);
     return message;
+  }
+
+  /// All of them, the oldest first. When memory runs out, `std::bad_alloc` leaves the queue as it was.
+  std::vector<std::unique_ptr<T>> popAll() {
+    const std::uint32_t end = posted(), mask = capacity_ - 1;
+    T* const* const ring = ring_.get();
+    std::vector<std::unique_ptr<T>> messages;
+    messages.reserve(end - popped());
+    for (std::uint32_t number = popped(); number != end; ++number) messages.emplace_back(ring[number & mask]);
+    popped_.store(end, std::memory_order_release);
+    return messages;
   }
 
  private:

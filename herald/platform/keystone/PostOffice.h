@@ -1,6 +1,7 @@
 #pragma once
 #include <herald/platform/keystone/Export.h>
 
+#include <atomic>
 #include <condition_variable>
 #include <mutex>
 
@@ -28,9 +29,10 @@ class HERALD_API PostOffice {
   bool waitForMail(int timeoutMs);
 
  private:
-  mutable std::mutex lock_;
+  std::atomic<int> mailCount_ = 0;
+  std::atomic<int> waiting_ = 0;
+  std::mutex lock_;
   std::condition_variable mailArrived_;
-  int mailCount_ = 0;
 };
 
 }  // namespace Tessel
