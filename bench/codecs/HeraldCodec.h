@@ -10,7 +10,7 @@
 namespace Bench {
 
 /// The stream that an application makes of a body for its decoding.
-inline Tessel::ByteStream streamOver(std::span<const std::uint8_t> body) { return Tessel::ByteStream(body); }
+inline Tessel::ByteStream streamOver(std::span<const std::uint8_t> body) { return Tessel::ByteStream::view(body); }
 
 inline std::unique_ptr<Tessel::ClientMessage> decode(int id, std::span<const std::uint8_t> body) {
   Tessel::ByteStream in = streamOver(body);
