@@ -46,7 +46,8 @@ Bytes tree(int count) {
 }
 
 template <class FloorMessage>
-void addSizes(Operations& operations, const std::string& kind, int id, Bytes (*make)(int), std::vector<int> sizes) {
+void addSizes(Operations& operations, const std::string& kind, int id, Bytes (*make)(int),
+              const std::vector<int>& sizes) {
   for (const int size : sizes) {
     const auto body = std::make_shared<const Bytes>(make(size));
     const auto message = decodeChecked(id, *body);

@@ -1,4 +1,5 @@
 #pragma once
+#include <algorithm>
 #include <concepts>
 #include <cstddef>
 #include <cstdint>
@@ -660,8 +661,7 @@ class Writer {
 
   static std::uint8_t* store(std::uint8_t* at, const std::string& text) {
     at = store(at, static_cast<std::uint16_t>(text.size()));
-    std::memcpy(at, text.data(), text.size());
-    return at + text.size();
+    return std::copy_n(reinterpret_cast<const std::uint8_t*>(text.data()), text.size(), at);
   }
 
  private:

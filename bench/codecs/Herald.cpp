@@ -169,10 +169,12 @@ void addEmpty(Operations& operations) {
 
 // Memory for a message of that size, and back.
 void addMalloc(Operations& operations) {
+  struct Free {
+    void operator()(void* memory) const { std::free(memory); }
+  };
   add(operations, "decode", "BetDone", "malloc", [] {
-    void* memory = std::malloc(sizeof(ClientBetDone));
-    benchmark::DoNotOptimize(memory);
-    std::free(memory);
+    const std::unique_ptr<void, Free> memory(std::malloc(sizeof(ClientBetDone)));
+    benchmark::DoNotOptimize(memory.get());
   });
 }
 

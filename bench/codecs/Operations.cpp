@@ -19,7 +19,9 @@ void requireEqual(const std::string& what, const Values& one, const Values& othe
 }
 
 void runBenchmarks(const Operations& operations, int argc, char** argv) {
-  for (const Operation& operation : operations) benchmark::RegisterBenchmark(operation.name.c_str(), operation.time);
+  for (const Operation& operation : operations)
+    benchmark::RegisterBenchmark(operation.name.c_str(),
+                                 [&operation](benchmark::State& state) { operation.time(state); });
   benchmark::Initialize(&argc, argv);
   if (benchmark::ReportUnrecognizedArguments(argc, argv)) throw std::invalid_argument("no such option");
   benchmark::RunSpecifiedBenchmarks();
