@@ -104,7 +104,7 @@ def beside_other(row, time, median):
     other = median[row.other]
     label = f"{duration(other)} {row.other.rsplit('/', 1)[1]}"
     if row.most_more is not None:
-        return [label, f"+{time - other:.1f} ns", aim(f"≤ +{row.most_more} ns", time - other <= row.most_more)]
+        return [label, f"{time - other:+.1f} ns", aim(f"≤ +{row.most_more} ns", time - other <= row.most_more)]
     return [label, times(time / other), aim(f"≤ {row.most}", time / other <= row.most) if row.most else ""]
 
 

@@ -83,7 +83,7 @@ class HERALD_API MailBox {
   }
   T* takeOldest();
 
-  std::mutex lock_;
+  alignas(CACHE_LINE) std::mutex lock_;
   std::atomic<std::thread::id> calling_ = std::thread::id();
   MessageQueue<T> queue_;
   PostOffice* postOffice_;

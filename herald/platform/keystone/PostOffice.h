@@ -3,9 +3,13 @@
 
 #include <atomic>
 #include <condition_variable>
+#include <cstddef>
 #include <mutex>
 
 namespace Tessel {
+
+/// Apart by so many bytes, what different threads write does not travel between their caches together.
+inline constexpr std::size_t CACHE_LINE = 64;
 
 /// Counts the mail of the mailboxes bound to it, so that a consumer can wait for mail in any of them. All operations
 /// are safe from any thread. `post` and `pickup` are called with a mailbox's lock held: an application that overrides
@@ -29,7 +33,7 @@ class HERALD_API PostOffice {
   bool waitForMail(int timeoutMs);
 
  private:
-  std::atomic<int> mailCount_ = 0;
+  alignas(CACHE_LINE) std::atomic<int> mailCount_ = 0;
   std::atomic<int> waiting_ = 0;
   std::mutex lock_;
   std::condition_variable mailArrived_;
