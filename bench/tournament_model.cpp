@@ -12,7 +12,7 @@ using namespace Tessel;
 LobbyPlayerInfo player(int id) {
   ByteStream body;
   body << id;
-  TsString(L"Player").write(body);
+  static_cast<void>(TsString(L"Player").write(body));
   body << std::int8_t{0};
   LobbyPlayerInfo player;
   player.read(body);

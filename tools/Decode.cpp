@@ -8,6 +8,10 @@
 #include <herald/platform/keystone/StringUtils.h>
 #include <herald/platform/keystone/UTFEncoder.h>
 
+#include <charconv>
+#include <concepts>
+#include <iterator>
+
 #include "Capture.h"
 #include "Diagnostics.h"
 #include "Output.h"
@@ -42,10 +46,15 @@ std::string_view nameOf(DecodeOutcome outcome) {
   return "";
 }
 
-std::string orDash(std::string_view text) { return std::string(text.empty() ? "-" : text); }
+std::string_view orDash(std::string_view text) { return text.empty() ? "-" : text; }
+
+void appendNumber(std::integral auto number, std::string& line) {
+  char digits[24];
+  line.append(digits, std::to_chars(digits, std::end(digits), number).ptr);
+}
 
 DecodedMessage decodeMessage(const Packet& packet) {
-  ByteStream body(packet.body);
+  ByteStream body = ByteStream::view(packet.body);
   return ClientMessageFactory::decode(packet.id, body);
 }
 
@@ -58,38 +67,74 @@ void complainOfFailedRead(const Packet& packet, const DecodedMessage& decoded, D
                        + (threw ? ": " + UTFEncoder::toUTF8(StringUtils::escapeLine(decoded.reason)) : ""));
 }
 
-std::string messageColumns(const Packet& packet, Diagnostics& diagnostics) {
+void appendMessageColumns(const Packet& packet, Diagnostics& diagnostics, std::string& line) {
   const DecodedMessage decoded = decodeMessage(packet);
   complainOfFailedRead(packet, decoded, diagnostics);
-  std::string columns = std::to_string(decoded.bytesRead) + '\t' + std::to_string(packet.body.size()) + '\t';
-  if (decoded.message == nullptr) return columns + '-';
-  return columns + UTFEncoder::toUTF8(StringUtils::escapeLine(decoded.message->toDebugString()));
+  appendNumber(decoded.bytesRead, line);
+  line += '\t';
+  appendNumber(packet.body.size(), line);
+  line += '\t';
+  if (decoded.message == nullptr)
+    line += '-';
+  else
+    line += UTFEncoder::toUTF8(StringUtils::escapeLine(decoded.message->toDebugString()));
 }
 
-std::string lineOf(const Packet& packet, Diagnostics& diagnostics) {
-  return std::to_string(packet.number) + '\t' + std::to_string(packet.id) + '\t' + orDash(classOf(packet)) + '\t'
-         + (packet.direction == Direction::FROM_SERVER ? messageColumns(packet, diagnostics) : "-\t-\t-") + '\n';
+void appendLine(const Packet& packet, Diagnostics& diagnostics, std::string& line) {
+  appendNumber(packet.number, line);
+  line += '\t';
+  appendNumber(packet.id, line);
+  line += '\t';
+  line += orDash(classOf(packet));
+  line += '\t';
+  if (packet.direction == Direction::FROM_SERVER)
+    appendMessageColumns(packet, diagnostics, line);
+  else
+    line += "-\t-\t-";
+  line += '\n';
 }
 
-std::string messageMembers(const Packet& packet) {
+void appendMessageMembers(const Packet& packet, std::string& line) {
   const DecodedMessage decoded = decodeMessage(packet);
-  std::string members = ",\"outcome\":" + toJsonString(nameOf(decoded.outcome)) + ",\"bytesRead\":"
-                        + std::to_string(decoded.bytesRead) + ",\"bytes\":" + std::to_string(packet.body.size());
-  if (!decoded.reason.empty()) members += ",\"reason\":" + toJsonString(UTFEncoder::toUTF8(decoded.reason));
-  return members + ",\"message\":" + (decoded.message != nullptr ? toJson(*decoded.message) : "null");
+  line += ",\"outcome\":";
+  appendJsonString(nameOf(decoded.outcome), line);
+  line += ",\"bytesRead\":";
+  appendNumber(decoded.bytesRead, line);
+  line += ",\"bytes\":";
+  appendNumber(packet.body.size(), line);
+  if (!decoded.reason.empty()) {
+    line += ",\"reason\":";
+    appendJsonString(UTFEncoder::toUTF8(decoded.reason), line);
+  }
+  line += ",\"message\":";
+  if (decoded.message != nullptr)
+    appendJson(*decoded.message, line);
+  else
+    line += "null";
 }
 
-std::string requestMembers(const Packet& packet) {
-  return ",\"bytes\":" + std::to_string(packet.body.size()) + ",\"message\":null";
+void appendRequestMembers(const Packet& packet, std::string& line) {
+  line += ",\"bytes\":";
+  appendNumber(packet.body.size(), line);
+  line += ",\"message\":null";
 }
 
-std::string jsonOf(const Packet& packet) {
+void appendJsonLine(const Packet& packet, std::string& line) {
   const bool isMessage = packet.direction == Direction::FROM_SERVER;
-  const std::string_view name = classOf(packet);
-  return "{\"packet\":" + std::to_string(packet.number)
-         + ",\"direction\":" + (isMessage ? "\"fromServer\"" : "\"toServer\"") + ",\"id\":" + std::to_string(packet.id)
-         + ",\"class\":" + (name.empty() ? "null" : toJsonString(name))
-         + (isMessage ? messageMembers(packet) : requestMembers(packet)) + "}\n";
+  line += "{\"packet\":";
+  appendNumber(packet.number, line);
+  line += isMessage ? ",\"direction\":\"fromServer\",\"id\":" : ",\"direction\":\"toServer\",\"id\":";
+  appendNumber(packet.id, line);
+  line += ",\"class\":";
+  if (const std::string_view name = classOf(packet); !name.empty())
+    appendJsonString(name, line);
+  else
+    line += "null";
+  if (isMessage)
+    appendMessageMembers(packet, line);
+  else
+    appendRequestMembers(packet, line);
+  line += "}\n";
 }
 
 // Writes packets, and the library's reports about them.
@@ -101,13 +146,19 @@ class PacketPrinter {
 
   void print(const Packet& packet) {
     sink_->setPacket(packet.number);
-    output_.write(format_ == OutputFormat::JSON ? jsonOf(packet) : lineOf(packet, diagnostics_));
+    line_.clear();
+    if (format_ == OutputFormat::JSON)
+      appendJsonLine(packet, line_);
+    else
+      appendLine(packet, diagnostics_, line_);
+    output_.write(line_);
   }
 
  private:
   OutputFormat format_;
   Output& output_;
   Diagnostics& diagnostics_;
+  std::string line_;
   std::shared_ptr<PacketReportSink> sink_;
   WithReportSink installed_;
 };

@@ -35,7 +35,7 @@ std::string valueOf(const Field& field) {
 
 Bytes encoded(const Inspectable& object) {
   ByteStream out;
-  if (!encode(object, out)) throw std::runtime_error(object.className() + " cannot be encoded");
+  if (!encode(object, out)) throw std::runtime_error(std::string(object.className()) + " cannot be encoded");
   return {out.bytes().begin(), out.bytes().end()};
 }
 
@@ -84,7 +84,7 @@ class Samples {
     compare(message);
     add("encode", "herald", [message, out]() mutable {
       out.clear();
-      message.write(out);
+      benchmark::DoNotOptimize(message.write(out));
       benchmark::ClobberMemory();
     });
     add("encode", "floor", [floorMessage, floorOut]() mutable {
@@ -191,7 +191,7 @@ std::unique_ptr<ClientMessage> decodeChecked(int id, const Bytes& body) {
   auto message = decode(id, body);
   if (!message) throw std::runtime_error("no message of the id " + std::to_string(id));
   if (encoded(*message) != body)
-    throw std::runtime_error(Inspectable(*message).className() + ": encoded, it is not its body");
+    throw std::runtime_error(std::string(Inspectable(*message).className()) + ": encoded, it is not its body");
   return message;
 }
 

@@ -42,7 +42,7 @@ class HERALD_API CurrentServerTimeModel : public MVCModel {
 class HERALD_API CurrentServerTimeUpdateObject : public NotificationUpdateObject {
  public:
   using NotificationUpdateObject::NotificationUpdateObject;
-  NotificationUpdateObject* clone() const override;
+  [[nodiscard]] NotificationUpdateObject* clone() const override;
   /// Passes the object to the visitor's operation.
   virtual void accept(CurrentServerTimeUpdateVisitor& visitor) const;
 };

@@ -40,7 +40,7 @@ class HERALD_API UserAccountModel : public MVCModel {
 class HERALD_API UserAccountUpdateObject : public NotificationUpdateObject {
  public:
   using NotificationUpdateObject::NotificationUpdateObject;
-  NotificationUpdateObject* clone() const override;
+  [[nodiscard]] NotificationUpdateObject* clone() const override;
 };
 
 }  // namespace Tessel

@@ -13,7 +13,7 @@ class TournamentBreakModificationObject {
  public:
   virtual ~TournamentBreakModificationObject() = default;
   /// The caller owns the copy.
-  virtual TournamentBreakModificationObject* clone() const = 0;
+  [[nodiscard]] virtual TournamentBreakModificationObject* clone() const = 0;
   /// Answers whether the observers are to be told: always.
   virtual bool modify(TournamentBreakModel& breaks) = 0;
 
@@ -35,7 +35,9 @@ class TournamentOnBreakModificationObject : public TournamentBreakModificationOb
  public:
   explicit TournamentOnBreakModificationObject(int breakEndOffset) : breakEndOffset_(breakEndOffset) {}
 
-  TournamentBreakModificationObject* clone() const override { return new TournamentOnBreakModificationObject(*this); }
+  [[nodiscard]] TournamentBreakModificationObject* clone() const override {
+    return new TournamentOnBreakModificationObject(*this);
+  }
 
   bool modify(TournamentBreakModel& breaks) override {
     return applied([&] {
@@ -54,7 +56,7 @@ class TournamentNotOnBreakModificationObject : public TournamentBreakModificatio
   TournamentNotOnBreakModificationObject(int nextBreakOffset, int duration)
       : nextBreakOffset_(nextBreakOffset), duration_(duration) {}
 
-  TournamentBreakModificationObject* clone() const override {
+  [[nodiscard]] TournamentBreakModificationObject* clone() const override {
     return new TournamentNotOnBreakModificationObject(*this);
   }
 
@@ -80,7 +82,7 @@ class TournamentNotOnBreakModificationObject : public TournamentBreakModificatio
 
 class TournamentNoMoreBreaksModificationObject : public TournamentBreakModificationObject {
  public:
-  TournamentBreakModificationObject* clone() const override {
+  [[nodiscard]] TournamentBreakModificationObject* clone() const override {
     return new TournamentNoMoreBreaksModificationObject(*this);
   }
 

@@ -35,7 +35,7 @@ class TournamentGlobalInformationModificationObject {
  public:
   virtual ~TournamentGlobalInformationModificationObject() = default;
   /// The caller owns the copy.
-  virtual TournamentGlobalInformationModificationObject* clone() const = 0;
+  [[nodiscard]] virtual TournamentGlobalInformationModificationObject* clone() const = 0;
   virtual bool modify(TourSummary& summary) = 0;
 };
 
@@ -44,7 +44,7 @@ class TournamentGlobalInformationBaseModificationObject : public TournamentGloba
  public:
   explicit TournamentGlobalInformationBaseModificationObject(TourSummary summary) : summary_(std::move(summary)) {}
 
-  TournamentGlobalInformationModificationObject* clone() const override {
+  [[nodiscard]] TournamentGlobalInformationModificationObject* clone() const override {
     return new TournamentGlobalInformationBaseModificationObject(*this);
   }
 
@@ -62,7 +62,7 @@ class TournamentGlobalInformationUpdateModificationObject : public TournamentGlo
  public:
   explicit TournamentGlobalInformationUpdateModificationObject(TourSummaryUpdate update) : update_(std::move(update)) {}
 
-  TournamentGlobalInformationModificationObject* clone() const override {
+  [[nodiscard]] TournamentGlobalInformationModificationObject* clone() const override {
     return new TournamentGlobalInformationUpdateModificationObject(*this);
   }
 

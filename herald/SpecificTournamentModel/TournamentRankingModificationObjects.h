@@ -11,7 +11,7 @@ class TournamentPlayerRankingModificationObject {
  public:
   virtual ~TournamentPlayerRankingModificationObject() = default;
   /// The caller owns the copy.
-  virtual TournamentPlayerRankingModificationObject* clone() const = 0;
+  [[nodiscard]] virtual TournamentPlayerRankingModificationObject* clone() const = 0;
   /// Answers whether the observers are to be told: always.
   virtual bool modify(TournamentPlayerRankingModel& ranking) = 0;
 };
@@ -20,7 +20,7 @@ class TournamentUserRankingModificationObject : public TournamentPlayerRankingMo
  public:
   explicit TournamentUserRankingModificationObject(RankedPlayer user) : user_(std::move(user)) {}
 
-  TournamentPlayerRankingModificationObject* clone() const override {
+  [[nodiscard]] TournamentPlayerRankingModificationObject* clone() const override {
     return new TournamentUserRankingModificationObject(*this);
   }
 
@@ -37,7 +37,7 @@ class TournamentTopPlayersModificationObject : public TournamentPlayerRankingMod
  public:
   explicit TournamentTopPlayersModificationObject(TsArray<RankedPlayer> players) : players_(std::move(players)) {}
 
-  TournamentPlayerRankingModificationObject* clone() const override {
+  [[nodiscard]] TournamentPlayerRankingModificationObject* clone() const override {
     return new TournamentTopPlayersModificationObject(*this);
   }
 

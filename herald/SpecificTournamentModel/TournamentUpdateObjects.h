@@ -13,49 +13,49 @@ namespace Tessel {
 class HERALD_API TournamentBaseUpdateObject : public NotificationUpdateObject {
  public:
   using NotificationUpdateObject::NotificationUpdateObject;
-  NotificationUpdateObject* clone() const override;
+  [[nodiscard]] NotificationUpdateObject* clone() const override;
 };
 
 /// The break schedule changed.
 class HERALD_API TournamentBreakUpdateObject : public NotificationUpdateObject {
  public:
   using NotificationUpdateObject::NotificationUpdateObject;
-  NotificationUpdateObject* clone() const override;
+  [[nodiscard]] NotificationUpdateObject* clone() const override;
 };
 
 /// The ranking changed.
 class HERALD_API TournamentPlayerRankingUpdateObject : public NotificationUpdateObject {
  public:
   using NotificationUpdateObject::NotificationUpdateObject;
-  NotificationUpdateObject* clone() const override;
+  [[nodiscard]] NotificationUpdateObject* clone() const override;
 };
 
 /// The current or the next level changed.
 class HERALD_API TournamentLevelInformationUpdateObject : public NotificationUpdateObject {
  public:
   using NotificationUpdateObject::NotificationUpdateObject;
-  NotificationUpdateObject* clone() const override;
+  [[nodiscard]] NotificationUpdateObject* clone() const override;
 };
 
 /// The summary changed, or the tournament was cancelled.
 class HERALD_API TournamentGlobalInformationUpdateObject : public NotificationUpdateObject {
  public:
   using NotificationUpdateObject::NotificationUpdateObject;
-  NotificationUpdateObject* clone() const override;
+  [[nodiscard]] NotificationUpdateObject* clone() const override;
 };
 
 /// The user's own standing changed.
 class HERALD_API TournamentPlayerInformationUpdateObject : public NotificationUpdateObject {
  public:
   using NotificationUpdateObject::NotificationUpdateObject;
-  NotificationUpdateObject* clone() const override;
+  [[nodiscard]] NotificationUpdateObject* clone() const override;
 };
 
 /// The rebuy or add-on state changed.
 class HERALD_API TournamentRebuyUpdateObject : public NotificationUpdateObject {
  public:
   using NotificationUpdateObject::NotificationUpdateObject;
-  NotificationUpdateObject* clone() const override;
+  [[nodiscard]] NotificationUpdateObject* clone() const override;
 };
 
 /// Registered players changed.
@@ -63,7 +63,7 @@ class HERALD_API TournamentRegisteredPlayersUpdateObject : public NotificationUp
  public:
   TournamentRegisteredPlayersUpdateObject(const MVCModel& model, TsArray<int> modifiedPlayers)
       : NotificationUpdateObject(model), modifiedPlayers_(std::move(modifiedPlayers)) {}
-  NotificationUpdateObject* clone() const override;
+  [[nodiscard]] NotificationUpdateObject* clone() const override;
 
   /// The ids that the batch touched, in the order of the changes; an id may occur several times.
   const TsArray<int>& getModifiedPlayers() const { return modifiedPlayers_; }
@@ -77,7 +77,7 @@ class HERALD_API TournamentTablesUpdateObject : public NotificationUpdateObject 
  public:
   TournamentTablesUpdateObject(const MVCModel& model, TsArray<int> modifiedTables)
       : NotificationUpdateObject(model), modifiedTables_(std::move(modifiedTables)) {}
-  NotificationUpdateObject* clone() const override;
+  [[nodiscard]] NotificationUpdateObject* clone() const override;
 
   /// The ids that the batch touched, in the order of the changes; an id may occur several times.
   const TsArray<int>& getModifiedTables() const { return modifiedTables_; }
@@ -91,7 +91,7 @@ class HERALD_API TournamentTableRankedPlayersUpdateObject : public NotificationU
  public:
   TournamentTableRankedPlayersUpdateObject(const MVCModel& model, int tableId)
       : NotificationUpdateObject(model), tableId_(tableId) {}
-  NotificationUpdateObject* clone() const override;
+  [[nodiscard]] NotificationUpdateObject* clone() const override;
 
   int getTableId() const { return tableId_; }
 

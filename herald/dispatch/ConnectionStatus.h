@@ -14,13 +14,15 @@ class HERALD_API ConnectionStatus {
  public:
   virtual ~ConnectionStatus();
   /// A new copy of the event's own class. The caller owns it.
-  virtual ConnectionStatus* clone() const = 0;
+  [[nodiscard]] virtual ConnectionStatus* clone() const = 0;
   /// A line of text for traces, with its line feed.
   virtual std::wstring toDebugString() const = 0;
   /// Calls the handler's operation for the event's own class.
   virtual void handle(ConnectionStatusMessageHandler& handler) const = 0;
 
-  std::unique_ptr<ConnectionStatus> cloneOwned() const { return std::unique_ptr<ConnectionStatus>(clone()); }
+  [[nodiscard]] std::unique_ptr<ConnectionStatus> cloneOwned() const {
+    return std::unique_ptr<ConnectionStatus>(clone());
+  }
 
  protected:
   ConnectionStatus() = default;
@@ -37,7 +39,7 @@ class HERALD_API ConnectionOK : public ConnectionStatus {
 
   User getUser() const { return user_; }
 
-  ConnectionStatus* clone() const override;
+  [[nodiscard]] ConnectionStatus* clone() const override;
   std::wstring toDebugString() const override;
   void handle(ConnectionStatusMessageHandler& handler) const override;
 
@@ -52,7 +54,7 @@ class HERALD_API ConnectionRegistration : public ConnectionStatus {
   int getPort() const { return port_; }
   void setPort(int port) { port_ = port; }
 
-  ConnectionStatus* clone() const override;
+  [[nodiscard]] ConnectionStatus* clone() const override;
   std::wstring toDebugString() const override;
   void handle(ConnectionStatusMessageHandler& handler) const override;
 
@@ -66,7 +68,7 @@ class HERALD_API ConnectionUnregistration : public ConnectionStatus {
   int getConnectionId() const { return connectionId_; }
   void setConnectionId(int connectionId) { connectionId_ = connectionId; }
 
-  ConnectionStatus* clone() const override;
+  [[nodiscard]] ConnectionStatus* clone() const override;
   std::wstring toDebugString() const override;
   void handle(ConnectionStatusMessageHandler& handler) const override;
 
@@ -109,7 +111,7 @@ class HERALD_API ConnectionFailed : public ConnectionStatus {
   /// The operating system's error code, 0 for none.
   unsigned long getSystemCode() const { return systemCode_; }
 
-  ConnectionStatus* clone() const override;
+  [[nodiscard]] ConnectionStatus* clone() const override;
   std::wstring toDebugString() const override;
   void handle(ConnectionStatusMessageHandler& handler) const override;
   /// Whether there is no use in trying again. It depends on the code alone.
@@ -129,7 +131,7 @@ class HERALD_API ConnectionUpdate : public ConnectionFailed {
 
   int getReconnectAttempts() const { return reconnectAttempts_; }
 
-  ConnectionStatus* clone() const override;
+  [[nodiscard]] ConnectionStatus* clone() const override;
   std::wstring toDebugString() const override;
   void handle(ConnectionStatusMessageHandler& handler) const override;
 

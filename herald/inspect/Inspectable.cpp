@@ -3,6 +3,6 @@
 
 namespace Tessel {
 
-std::string Inspectable::className() const { return classNameOf(*type_); }
+std::string_view Inspectable::className() const { return classNameOf(*type_); }
 
 }  // namespace Tessel

@@ -26,7 +26,7 @@ class HERALD_API Inspectable {
         describe_([](const void* self, FieldSink& sink) { static_cast<const T*>(self)->describe(sink); }) {}
 
   /// The class of the object, without its namespace.
-  std::string className() const;
+  std::string_view className() const;
   void describe(FieldSink& sink) const { describe_(object_, sink); }
 
  private:

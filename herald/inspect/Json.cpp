@@ -3,6 +3,11 @@
 #include <herald/wire/FieldSink.h>
 
 #include <algorithm>
+#include <array>
+#include <charconv>
+#include <iterator>
+#include <limits>
+#include <utility>
 
 namespace Tessel {
 
@@ -11,26 +16,27 @@ namespace {
 // Deep data would otherwise cost the square of its depth.
 constexpr std::size_t DEEPEST_INDENT = 16;
 
+// The characters that stand for themselves in a string, whatever comes before and behind them.
+constexpr std::array<bool, 256> IS_PLAIN = [] {
+  std::array<bool, 256> isPlain{};
+  for (std::size_t c = 0x20; c < 0x7F; ++c) isPlain[c] = c != '"' && c != '\\';
+  return isPlain;
+}();
+
+std::size_t plainPrefix(std::string_view utf8) {
+  std::size_t i = 0;
+  while (i < utf8.size() && IS_PLAIN[static_cast<unsigned char>(utf8[i])]) ++i;
+  return i;
+}
+
 void appendEscaped(char c, std::string& out) {
   constexpr std::string_view DIGITS = "0123456789abcdef";
-  switch (c) {
-    case '"':
-      out += "\\\"";
-      return;
-    case '\\':
-      out += "\\\\";
-      return;
-    case '\n':
-      out += "\\n";
-      return;
-    case '\r':
-      out += "\\r";
-      return;
-    case '\t':
-      out += "\\t";
-      return;
-    default:
-      break;
+  constexpr std::pair<char, char> SHORT_FORMS[] = {{'"', '"'}, {'\\', '\\'}, {'\n', 'n'}, {'\r', 'r'}, {'\t', 't'}};
+  for (const auto& [character, letter] : SHORT_FORMS) {
+    if (c != character) continue;
+    out += '\\';
+    out += letter;
+    return;
   }
   const auto byte = static_cast<unsigned char>(c);
   if (byte >= 0x20) {
@@ -52,27 +58,28 @@ std::string repaired(std::string_view utf8) {
 }
 
 void appendString(std::string_view utf8, std::string& out) {
-  if (!UTFEncoder::isValid(utf8)) return appendString(repaired(utf8), out);
+  const std::size_t plain = plainPrefix(utf8);
+  if (plain < utf8.size() && !UTFEncoder::isValid(utf8)) return appendString(repaired(utf8), out);
   out += '"';
-  for (const char c : utf8) appendEscaped(c, out);
+  out += utf8.substr(0, plain);
+  for (const char c : utf8.substr(plain)) appendEscaped(c, out);
   out += '"';
 }
 
 class JsonSink final : public FieldSink {
  public:
-  explicit JsonSink(JsonOptions options) : options_(options) {}
+  JsonSink(JsonOptions options, std::string& out) : options_(options), out_(out) { out_ += '{'; }
 
-  std::string finish() {
-    close('}');
-    return std::move(out_);
-  }
+  void finish() { close('}'); }
 
   void number(std::string_view name, WireType type, std::int64_t value) override {
     beginValue(name);
-    if (type == WireType::BOOL)
+    if (type == WireType::BOOL) {
       out_ += value != 0 ? "true" : "false";
-    else
-      out_ += std::to_string(value);
+    } else {
+      char digits[std::numeric_limits<std::int64_t>::digits10 + 2];
+      out_.append(digits, std::to_chars(digits, std::end(digits), value).ptr);
+    }
   }
 
   void text(std::string_view name, std::string_view utf8, bool secret) override {
@@ -94,6 +101,21 @@ class JsonSink final : public FieldSink {
 
  private:
   void beginValue(std::string_view name) {
+    // In one piece for nearly every name.
+    char head[64];
+    if (!options_.indented && name.size() + 4 <= sizeof(head) && plainPrefix(name) == name.size()) {
+      char* end = head;
+      if (!isFirst_) *end++ = ',';
+      isFirst_ = false;
+      if (!name.empty()) {
+        *end++ = '"';
+        end = std::copy(name.begin(), name.end(), end);
+        *end++ = '"';
+        *end++ = ':';
+      }
+      out_.append(head, end);
+      return;
+    }
     if (!isFirst_) out_ += ',';
     isFirst_ = false;
     beginLine();
@@ -123,19 +145,27 @@ class JsonSink final : public FieldSink {
   }
 
   JsonOptions options_;
-  std::string out_ = "{";
+  std::string& out_;
   std::size_t depth_ = 1;
   bool isFirst_ = true;
 };
 
 }  // namespace
 
-std::string toJson(Inspectable object, JsonOptions options) {
-  JsonSink sink(options);
+void appendJson(Inspectable object, std::string& out, JsonOptions options) {
+  JsonSink sink(options, out);
   sink.text("class", object.className(), false);
   object.describe(sink);
-  return sink.finish();
+  sink.finish();
 }
+
+std::string toJson(Inspectable object, JsonOptions options) {
+  std::string json;
+  appendJson(object, json, options);
+  return json;
+}
+
+void appendJsonString(std::string_view utf8, std::string& out) { appendString(utf8, out); }
 
 std::string toJsonString(std::string_view utf8) {
   std::string text;

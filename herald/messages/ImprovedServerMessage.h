@@ -8,7 +8,7 @@ namespace Tessel {
 class HERALD_API ImprovedServerMessage : public ServerMessage {
  public:
   ~ImprovedServerMessage() override;
-  bool write(ByteStream& out) const final;
+  [[nodiscard]] bool write(ByteStream& out) const final;
   std::wstring toDebugString() const override = 0;
   /// Appends the body; throws `KeystoneException` when it cannot be written. That ends the frame: it is reported, and
   /// `write` answers false.

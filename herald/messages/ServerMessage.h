@@ -13,7 +13,7 @@ class HERALD_API ServerMessage : public StreamWritableObject {
  public:
   /// Appends the whole frame. A request that cannot be written (a text that cannot be encoded, a body of 32,768 bytes
   /// or more) is reported, answers false and leaves the stream as it was.
-  bool write(ByteStream& out) const override = 0;
+  [[nodiscard]] bool write(ByteStream& out) const override = 0;
   /// One line of text for traces.
   virtual std::wstring toDebugString() const = 0;
   /// Tells the sink every field of the body, in wire order. One that does not say what its fields are tells nothing.

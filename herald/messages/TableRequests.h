@@ -237,7 +237,7 @@ class HERALD_API ServerCards : public ServerMessage {
 
   const CardsInfo& getCardsInfo() const { return cards_; }
 
-  bool write(ByteStream& out) const override;
+  [[nodiscard]] bool write(ByteStream& out) const override;
   std::wstring toDebugString() const override;
   void describe(FieldSink& sink) const override;
 

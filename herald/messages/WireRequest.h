@@ -16,7 +16,7 @@ class HERALD_API EmptyRequest : public ServerMessage {
  public:
   static constexpr short ID = REQUEST_ID;
 
-  bool write(ByteStream& out) const override;
+  [[nodiscard]] bool write(ByteStream& out) const override;
   std::wstring toDebugString() const override;
   void describe(FieldSink& sink) const override;
 };
@@ -27,7 +27,7 @@ class HERALD_API RecordRequest : public ServerMessage {
  public:
   static constexpr short ID = REQUEST_ID;
 
-  bool write(ByteStream& out) const override;
+  [[nodiscard]] bool write(ByteStream& out) const override;
   std::wstring toDebugString() const override;
   void describe(FieldSink& sink) const override;
 
@@ -46,7 +46,7 @@ class HERALD_API WireRequest : public ServerMessage {
  public:
   static constexpr short ID = REQUEST_ID;
 
-  bool write(ByteStream& out) const override;
+  [[nodiscard]] bool write(ByteStream& out) const override;
   void describe(FieldSink& sink) const override;
 };
 

@@ -53,7 +53,7 @@ class Recorder : public MVCObserver {
   ~Recorder() override { model.removeObserver(*this); }
 
   void update(const NotificationUpdateObject& update) override {
-    std::string part = classNameOf(typeid(update));
+    std::string part(classNameOf(typeid(update)));
     for (const std::string_view rest : {"Tournament", "UpdateObject"}) part.erase(part.find(rest), rest.size());
     updates += ' ' + part;
     last.reset(update.clone());

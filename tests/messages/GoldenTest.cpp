@@ -58,11 +58,30 @@ concept Complete = requires {
 template <class Message>
 concept CopyableMessage = Complete<Message> && std::derived_from<Message, ClientMessage> && Assignable<Message>;
 
+// What a message has read lies in memory of its own, which a move takes along and a copy leaves behind.
 struct CopyTester {
   template <class Message>
-  void operator()(const Message& message) const {
-    if constexpr (CopyableMessage<Message>) expectCopies(std::make_unique<Message>(message), *golden);
+  void operator()(const Message&) const {
+    if constexpr (CopyableMessage<Message>) {
+      expectCopies(read<Message>(), *golden);
+      const Message moved(std::move(*read<Message>()));
+      expectValues(moved, *golden);
+      const auto target = read<Message>();
+      *target = std::move(*read<Message>());
+      expectValues(*target, *golden);
+      *target = Message(*read<Message>());
+      expectValues(*target, *golden);
+    }
   }
+
+  template <class Message>
+  std::unique_ptr<Message> read() const {
+    auto message = std::make_unique<Message>();
+    ByteStream in(golden->bytes);
+    EXPECT_EQ(message->read(in), golden->result);
+    return message;
+  }
+
   const GoldenCase* golden;
 };
 

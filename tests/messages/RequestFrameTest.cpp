@@ -91,7 +91,7 @@ TEST(RequestFrame, IsWrittenWholeOrNotAtAll) {
   ByteStream body;
   EXPECT_THROW(ServerGlobalChatMsg(L"nick", lone).writeBody(body), KeystoneException);
   ByteStream out(toBytes("01"));
-  EXPECT_THROW(TestRequest([](ByteStream&) { throw std::bad_alloc(); }).write(out), std::bad_alloc);
+  EXPECT_THROW(static_cast<void>(TestRequest([](ByteStream&) { throw std::bad_alloc(); }).write(out)), std::bad_alloc);
   EXPECT_EQ(toHex(out.bytes()), "01");
   EXPECT_EQ(frameOf(ServerGlobalChatMsg(L"", fits)).substr(0, 16), "FFDC7FFF00007FFB");
   EXPECT_EQ(frameOf(PGJoinGameReq(player, rest)).size(), 2 * (4 + 32767u));

@@ -26,7 +26,7 @@ class HERALD_API GameInfo : public ReadableRecord<GameInfo> {
 
   /// Appends the fields that `read` takes, but the monetary unit id in 32 bits instead of 16. False, with the failure
   /// reported, when the name cannot be encoded.
-  bool write(ByteStream& out) const;
+  [[nodiscard]] bool write(ByteStream& out) const;
 
   std::wstring toDebugString() const override;
 

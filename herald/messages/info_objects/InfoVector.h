@@ -26,7 +26,7 @@ class HERALD_API InfoVector : public ReadableObjectInfo {
   /// Appends what the stream holds to the elements that are there. False when an element cannot be read; those before
   /// it stay. A type string without a class throws `KeystoneException` as soon as there is an element to make.
   bool read(ByteStream& in) override;
-  ReadableObjectInfo* clone() const override;
+  [[nodiscard]] ReadableObjectInfo* clone() const override;
   std::wstring toDebugString() const override;
   void describe(FieldSink& sink) const override;
 

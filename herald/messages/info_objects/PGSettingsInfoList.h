@@ -10,7 +10,7 @@ class HERALD_API PGSettingsInfoList : public InfoVector {
   /// class.
   const PGSettingsInfo& getGameInfo(int i) const;
 
-  ReadableObjectInfo* clone() const override;
+  [[nodiscard]] ReadableObjectInfo* clone() const override;
   std::wstring toDebugString() const override;
 };
 

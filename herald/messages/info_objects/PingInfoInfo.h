@@ -18,7 +18,7 @@ class HERALD_API PingInfoInfo : public ReadableRecord<PingInfoInfo, ReadableWrit
   void setMoneyAtTable(const Money& money) { moneyAtTable_ = MoneyAmount(money); }
 
   /// The record is never sent: writes nothing and answers false.
-  bool write(ByteStream& out) const override;
+  [[nodiscard]] bool write(ByteStream& out) const override;
 
   std::wstring toDebugString() const override;
 

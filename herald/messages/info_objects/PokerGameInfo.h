@@ -34,7 +34,7 @@ class HERALD_API PokerGameInfo : public ReadableRecord<PokerGameInfo, GameInfo>,
   /// The limits in the currency that `MoneyModel` now knows for the game's monetary unit; in a default one otherwise.
   MoneyLimit getLimits() const;
 
-  LobbyNodeInterface* cloneNode() const override;
+  [[nodiscard]] LobbyNodeInterface* cloneNode() const override;
   int getLobbyNodeId() const override { return getId(); }
 
   std::wstring toDebugString() const override;

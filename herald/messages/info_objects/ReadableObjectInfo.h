@@ -13,13 +13,15 @@ class FieldSink;
 class HERALD_API ReadableObjectInfo : public StreamReadableObject {
  public:
   /// A new copy of the record's own class. The caller owns it.
-  virtual ReadableObjectInfo* clone() const = 0;
+  [[nodiscard]] virtual ReadableObjectInfo* clone() const = 0;
   /// One line of text for traces.
   virtual std::wstring toDebugString() const = 0;
   /// Tells the sink every field, in wire order. One that does not say what its fields are tells nothing.
   virtual void describe(FieldSink&) const {}
 
-  std::unique_ptr<ReadableObjectInfo> cloneOwned() const { return std::unique_ptr<ReadableObjectInfo>(clone()); }
+  [[nodiscard]] std::unique_ptr<ReadableObjectInfo> cloneOwned() const {
+    return std::unique_ptr<ReadableObjectInfo>(clone());
+  }
 
  protected:
   ReadableObjectInfo() = default;

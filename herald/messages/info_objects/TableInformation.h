@@ -89,7 +89,7 @@ class HERALD_API TableInformation : public ReadableRecord<TableInformation, Read
   bool getFlagA() const { return flagA_; }
   bool getFlagB() const { return flagB_; }
 
-  bool write(ByteStream& out) const override;
+  [[nodiscard]] bool write(ByteStream& out) const override;
   /// Empty.
   std::wstring toDebugString() const override;
 

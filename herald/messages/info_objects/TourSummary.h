@@ -24,7 +24,7 @@ namespace Tessel {
 /// All that a tournament list or a tournament lobby shows about a tournament.
 class HERALD_API TourSummary : public ReadableRecord<TourSummary>, public LobbyNodeInterface {
  public:
-  LobbyNodeInterface* cloneNode() const override;
+  [[nodiscard]] LobbyNodeInterface* cloneNode() const override;
   int getLobbyNodeId() const override;
 
   int getTournamentId() const { return tourId_; }

@@ -45,7 +45,7 @@ class HERALD_API TreeNodeInfo : public ReadableInfo {
   bool read(ByteStream& in) override;
   /// The same; a tree that is in order and not deep lies in `memory` where that is not null.
   bool readIn(ByteStream& in, MessageMemory* memory);
-  ReadableObjectInfo* clone() const override;
+  [[nodiscard]] ReadableObjectInfo* clone() const override;
   std::wstring toDebugString() const override;
   int size() const override;
   void describe(FieldSink& sink) const override;

@@ -10,7 +10,7 @@ class HERALD_API TreeNodeInfoList : public InfoVector {
   /// class.
   const TreeNodeInfo& getTreeNodeInfo(int i) const;
 
-  ReadableObjectInfo* clone() const override;
+  [[nodiscard]] ReadableObjectInfo* clone() const override;
   std::wstring toDebugString() const override;
 };
 

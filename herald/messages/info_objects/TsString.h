@@ -27,8 +27,8 @@ class HERALD_API TsString : public ReadableWritableInfo {
   /// False, with the failure reported and the old text kept, when the bytes are no text.
   bool read(ByteStream& in) override;
   /// False, with the failure reported and nothing written, when the text cannot be encoded.
-  bool write(ByteStream& out) const override;
-  ReadableObjectInfo* clone() const override;
+  [[nodiscard]] bool write(ByteStream& out) const override;
+  [[nodiscard]] ReadableObjectInfo* clone() const override;
   std::wstring toDebugString() const override;
   int size() const override;
   void describe(FieldSink& sink) const override;

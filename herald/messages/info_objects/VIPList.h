@@ -10,7 +10,7 @@ class HERALD_API VIPList : public InfoVector {
   /// class.
   const VIPPlayerInfo& getVIPPlayer(int i) const;
 
-  ReadableObjectInfo* clone() const override;
+  [[nodiscard]] ReadableObjectInfo* clone() const override;
 };
 
 }  // namespace Tessel

@@ -40,7 +40,7 @@ class HERALD_API ReadableRecord : public Base {
  public:
   using Base::Base;
   bool read(ByteStream& in) override;
-  ReadableObjectInfo* clone() const override;
+  [[nodiscard]] ReadableObjectInfo* clone() const override;
   int size() const override;
   void describe(FieldSink& sink) const override;
 };
@@ -50,14 +50,14 @@ template <class Self, class Base = ReadableWritableInfo>
 class HERALD_API ReadableWritableRecord : public ReadableRecord<Self, Base> {
  public:
   using ReadableRecord<Self, Base>::ReadableRecord;
-  bool write(ByteStream& out) const override;
+  [[nodiscard]] bool write(ByteStream& out) const override;
 };
 
 /// A record that is only written.
 template <class Self>
 class HERALD_API WritableRecord : public WritableObjectInfo {
  public:
-  bool write(ByteStream& out) const override;
+  [[nodiscard]] bool write(ByteStream& out) const override;
   int size() const override;
   void describe(FieldSink& sink) const override;
 };

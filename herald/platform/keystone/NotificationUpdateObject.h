@@ -12,7 +12,7 @@ class HERALD_API NotificationUpdateObject {
   explicit NotificationUpdateObject(const MVCModel& model);
   virtual ~NotificationUpdateObject();
   /// A new copy, of the same class, that the caller owns.
-  virtual NotificationUpdateObject* clone() const;
+  [[nodiscard]] virtual NotificationUpdateObject* clone() const;
 
   /// The model that changed. A clone does not keep it alive.
   const MVCModel& getModel() const { return *model_; }

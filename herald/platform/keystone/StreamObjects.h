@@ -26,7 +26,7 @@ class HERALD_API StreamWritableObject {
  public:
   virtual ~StreamWritableObject() = default;
   /// Appends the object and answers whether it could be written.
-  virtual bool write(ByteStream& out) const = 0;
+  [[nodiscard]] virtual bool write(ByteStream& out) const = 0;
 
  protected:
   StreamWritableObject() = default;

@@ -1,6 +1,11 @@
 #include <herald/platform/keystone/TypeName.h>
 
+#include <mutex>
+#include <shared_mutex>
+#include <string>
 #include <string_view>
+#include <typeindex>
+#include <unordered_map>
 
 #ifndef _MSC_VER
 #include <cxxabi.h>
@@ -11,7 +16,9 @@
 
 namespace Tessel {
 
-std::string classNameOf(const std::type_info& type) {
+namespace {
+
+std::string nameWithoutNamespace(const std::type_info& type) {
 #ifdef _MSC_VER
   std::string_view name = type.name();
   for (const std::string_view keyword : {"class ", "struct "}) {
@@ -26,6 +33,20 @@ std::string classNameOf(const std::type_info& type) {
   constexpr std::string_view SPACE = "Tessel::";
   if (name.starts_with(SPACE)) name.remove_prefix(SPACE.size());
   return std::string(name);
+}
+
+}  // namespace
+
+std::string_view classNameOf(const std::type_info& type) {
+  // Finding a name is slow, and a program asks for few. Never destroyed: objects that outlive main may still ask.
+  static std::shared_mutex& lock = *new std::shared_mutex;
+  static auto& names = *new std::unordered_map<std::type_index, std::string>;
+  {
+    const std::shared_lock guard(lock);
+    if (const auto name = names.find(type); name != names.end()) return name->second;
+  }
+  const std::lock_guard guard(lock);
+  return names.try_emplace(type, nameWithoutNamespace(type)).first->second;
 }
 
 }  // namespace Tessel

@@ -8,7 +8,7 @@ class HERALD_API LobbyNodeInterface {
  public:
   virtual ~LobbyNodeInterface();
   /// A new copy, of the same class, that the caller owns.
-  virtual LobbyNodeInterface* cloneNode() const = 0;
+  [[nodiscard]] virtual LobbyNodeInterface* cloneNode() const = 0;
   /// The id of the game or tournament.
   virtual int getLobbyNodeId() const = 0;
 
