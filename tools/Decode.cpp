@@ -123,7 +123,7 @@ void appendJsonLine(const Packet& packet, std::string& line) {
   const bool isMessage = packet.direction == Direction::FROM_SERVER;
   line += "{\"packet\":";
   appendNumber(packet.number, line);
-  line += isMessage ? ",\"direction\":\"fromServer\",\"id\":" : ",\"direction\":\"toServer\",\"id\":";
+  line += isMessage ? R"(,"direction":"fromServer","id":)" : R"(,"direction":"toServer","id":)";
   appendNumber(packet.id, line);
   line += ",\"class\":";
   if (const std::string_view name = classOf(packet); !name.empty())

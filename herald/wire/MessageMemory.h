@@ -23,6 +23,7 @@ class HERALD_API MessageMemory {
   MessageMemory() = default;
   MessageMemory(const MessageMemory&) noexcept {}
   MessageMemory(MessageMemory&& other) noexcept : last_(std::exchange(other.last_, nullptr)) {}
+  // NOLINTNEXTLINE(bugprone-unhandled-self-assignment): nothing is assigned
   MessageMemory& operator=(const MessageMemory&) noexcept { return *this; }
   MessageMemory& operator=(MessageMemory&& other) noexcept {
     std::swap(last_, other.last_);

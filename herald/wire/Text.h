@@ -116,7 +116,7 @@ class HERALD_API Text {
 
   template <class Byte>
   static Words wordsAt(const Byte* from) {
-    Words words;
+    Words words{};
     std::memcpy(&words.first, from, sizeof(words.first));
     std::memcpy(&words.second, from + sizeof(words.first), sizeof(words.second));
     std::memcpy(&words.third, from + 2 * sizeof(words.first), sizeof(words.third));
@@ -127,7 +127,7 @@ class HERALD_API Text {
   void setKind(std::uint8_t kind) { bytes_[MAX_SHORT] = static_cast<char>(kind); }
   bool isShort() const { return kind() <= MAX_SHORT; }
   Long longText() const {
-    Long text;
+    Long text{};
     std::memcpy(&text, bytes_.data(), sizeof(text));
     return text;
   }

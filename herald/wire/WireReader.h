@@ -184,7 +184,7 @@ class WireReader {
     constexpr std::size_t MODEST_SIZE = 65536;
     list.clear();
     if (count <= 0) return;
-    const auto size = static_cast<std::size_t>(count);
+    const auto size = static_cast<std::size_t>(std::int64_t{count});
     if (size <= in_.unreadCount() / minimumWireSize<Item>()) {
       resize(list, size);
       for (auto&& item : list) readItem(item);

@@ -9,7 +9,7 @@ void DiscardCardsInfo::getDiscardedCards(TsArray<int>& cards) const {
 
 void DiscardCardsInfo::setDiscardedCards(const TsArray<int>& cards) {
   cards_.clear();
-  for (const int card : cards) cards_.push_back(static_cast<std::int8_t>(card));
+  for (const int card : cards) cards_.add(static_cast<std::int8_t>(card));
 }
 
 std::wstring DiscardCardsInfo::toDebugString() const { return L"[DiscardCardsInfo]"; }

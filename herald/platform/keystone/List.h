@@ -27,7 +27,7 @@ class List {
   List(std::initializer_list<T> items) : List(items.begin(), items.end()) {}
   template <class Iterator>
   List(Iterator first, Iterator last) {
-    for (; first != last; ++first) push_back(static_cast<T>(*first));
+    for (; first != last; ++first) add(static_cast<T>(*first));
   }
   List(const List& other) : List() {
     reserve(other.size());
@@ -62,7 +62,7 @@ class List {
   T& front() { return data()[0]; }
   T& back() { return data()[held_.size - 1]; }
 
-  void push_back(T item) {
+  void add(T item) {
     if (held_.size == held_.capacity) reallocate(std::max<std::size_t>(2 * std::size_t{held_.size}, 4));
     append(std::move(item));
   }

@@ -36,7 +36,7 @@ class TsArray {
   const T& operator[](int index) const { return at(index); }
   T& operator[](int index) { return at(index); }
 
-  void add(T item) { items_.push_back(std::move(item)); }
+  void add(T item) { items_.add(std::move(item)); }
   void setSize(int size) { items_.resize(checkedSize(size)); }
   void clear() { items_.clear(); }
 

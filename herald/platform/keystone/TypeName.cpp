@@ -4,7 +4,6 @@
 #include <shared_mutex>
 #include <string>
 #include <string_view>
-#include <typeindex>
 #include <unordered_map>
 
 #ifndef _MSC_VER
@@ -40,13 +39,13 @@ std::string nameWithoutNamespace(const std::type_info& type) {
 std::string_view classNameOf(const std::type_info& type) {
   // Finding a name is slow, and a program asks for few. Never destroyed: objects that outlive main may still ask.
   static std::shared_mutex& lock = *new std::shared_mutex;
-  static auto& names = *new std::unordered_map<std::type_index, std::string>;
+  static auto& names = *new std::unordered_map<const std::type_info*, std::string>;
   {
     const std::shared_lock guard(lock);
-    if (const auto name = names.find(type); name != names.end()) return name->second;
+    if (const auto name = names.find(&type); name != names.end()) return name->second;
   }
   const std::lock_guard guard(lock);
-  return names.try_emplace(type, nameWithoutNamespace(type)).first->second;
+  return names.try_emplace(&type, nameWithoutNamespace(type)).first->second;
 }
 
 }  // namespace Tessel
