@@ -5,10 +5,11 @@
 
 namespace Tessel {
 
-// A chunk holds what is asked for now and what is guessed to come, but grows gently: a wrong guess wastes little.
-void MessageMemory::addChunk(std::size_t size, std::size_t toCome) {
-  constexpr std::size_t MOST_IN_ADVANCE = 4096;
-  const std::size_t held = sizeof(Chunk) + size + std::min(toCome, MOST_IN_ADVANCE);
+// A chunk holds what is asked for now and what is guessed to come, twice the bytes on the wire; a wrong guess wastes
+// little.
+void MessageMemory::addChunk(std::size_t size, std::size_t bytesToCome) {
+  constexpr std::size_t MOST_IN_ADVANCE = 2048;
+  const std::size_t held = sizeof(Chunk) + size + std::min(2 * bytesToCome, MOST_IN_ADVANCE);
   auto* const memory = static_cast<std::byte*>(::operator new(held));
   last_ = new (memory) Chunk{last_, memory + sizeof(Chunk), memory + held};
 }

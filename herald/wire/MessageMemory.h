@@ -36,10 +36,11 @@ class HERALD_API MessageMemory {
   /// Whether none has been taken so far.
   bool isUnused() const { return last_ == nullptr; }
 
-  /// Uninitialised memory, aligned to `ALIGNMENT` bytes. `toCome` is a guess of how much more will be wanted.
-  void* take(std::size_t size, std::size_t toCome) {
+  /// Uninitialised memory, aligned to `ALIGNMENT` bytes. `bytesToCome` are unread: the more they
+  /// are, the more memory will be wanted.
+  void* take(std::size_t size, std::size_t bytesToCome) {
     size = (size + ALIGNMENT - 1) & ~(ALIGNMENT - 1);
-    if (last_ == nullptr || size > static_cast<std::size_t>(last_->end - last_->free)) addChunk(size, toCome);
+    if (last_ == nullptr || size > static_cast<std::size_t>(last_->end - last_->free)) addChunk(size, bytesToCome);
     return std::exchange(last_->free, last_->free + size);
   }
 
@@ -50,7 +51,7 @@ class HERALD_API MessageMemory {
     std::byte* end;
   };
 
-  void addChunk(std::size_t size, std::size_t toCome);
+  void addChunk(std::size_t size, std::size_t bytesToCome);
   void release() noexcept;
 
   Chunk* last_ = nullptr;

@@ -49,7 +49,7 @@ template <class T>
 void makeRoom(List<T>& list, std::size_t count, MessageMemory* memory, std::size_t bytesToCome) {
   static_assert(alignof(T) <= MessageMemory::ALIGNMENT);
   if (memory != nullptr) {
-    list.borrow(memory->take(count * sizeof(T), 2 * bytesToCome), count);
+    list.borrow(memory->take(count * sizeof(T), bytesToCome), count);
   } else {
     list.clear();
     list.reserve(count);

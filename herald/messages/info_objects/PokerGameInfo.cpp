@@ -7,8 +7,8 @@ namespace Tessel {
 PokerGameInfo::PokerGameInfo(const GameInfo& game, const GameType* gameType, const LimitType* limitType,
                              std::int64_t lowerLimit, std::int64_t upperLimit, bool isPrivate, bool isModerated,
                              GameSpeed speed, bool isBootable, bool isNetworkTable)
-    : gameType_(static_cast<std::int8_t>(gameType->getValue())),
-      limitType_(static_cast<std::int8_t>(limitType->getValue())), lowerLimit_(lowerLimit), upperLimit_(upperLimit),
+    : lowerLimit_(lowerLimit), upperLimit_(upperLimit), gameType_(static_cast<std::int8_t>(gameType->getValue())),
+      limitType_(static_cast<std::int8_t>(limitType->getValue())),
       tableFlags_(static_cast<std::int8_t>((static_cast<int>(speed) & SPEED_MASK) | isPrivate << PRIVATE_BIT
                                            | isModerated << MODERATED_BIT | isBootable << BOOTABLE_BIT
                                            | isNetworkTable << NETWORK_BIT)) {

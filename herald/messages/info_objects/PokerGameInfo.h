@@ -58,10 +58,10 @@ class HERALD_API PokerGameInfo : public ReadableRecord<PokerGameInfo, GameInfo>,
 
   bool hasFlag(int bit) const;
 
-  std::int8_t gameType_ = -1;
-  std::int8_t limitType_ = -1;
   Amount lowerLimit_;
   Amount upperLimit_;
+  std::int8_t gameType_ = -1;
+  std::int8_t limitType_ = -1;
   std::int8_t tableFlags_ = 0;
 };
 
