@@ -8,6 +8,7 @@
 #include <herald/wire/WireSizer.h>
 #include <herald/wire/WireTypes.h>
 
+#include <cassert>
 #include <vector>
 
 // Functions that must become part of their callers for a layout to be read in registers, and those that must not.
@@ -121,7 +122,7 @@ class StraightReader {
   }
   template <WireText T>
   HERALD_IN_LINE void required(const char*, T& text) {
-    if (!readText(text)) fail();
+    readText(text);
   }
   template <WireText T>
   HERALD_IN_LINE void always(const char*, T& text) {
@@ -250,6 +251,7 @@ class StraightReader {
 
   template <WireNumber T>
   HERALD_IN_LINE T take() {
+    assert(promised_ >= sizeof(T));
     promised_ -= sizeof(T);
     const std::uint8_t* const from = std::exchange(at_, at_ + sizeof(T));
     return numberAt<T>(from);
@@ -265,33 +267,39 @@ class StraightReader {
 
   // One test says that the text and the smallest form of what follows are there, another that all that a short text
   // looks at is.
-  HERALD_IN_LINE bool readText(Text& text) {
-    begin();
-    const std::size_t size = BigEndian<std::uint16_t>::load(at_);
-    promised_ -= sizeof(std::uint16_t);
-    const std::uint8_t* const bytes = at_ + sizeof(std::uint16_t);
-    const auto left = static_cast<std::size_t>(end_ - bytes);
-    if (left < size + promised_) [[unlikely]]
-      giveUp();
-    const bool isTaken = size <= Text::MAX_SHORT && left > Text::MAX_SHORT && text.takeShortAscii(bytes, size);
-    if (!isTaken && !takeText(text, bytes, size, memory_, left - size)) giveUp();
-    at_ = bytes + size;
+  HERALD_IN_LINE void readText(Text& text) {
+    const std::size_t size = beginText();
+    const bool isTaken = size <= Text::MAX_SHORT && left() > Text::MAX_SHORT && text.takeShortAscii(at_, size);
+    if (!isTaken) {
+      const std::string_view utf8 = textAt(at_, size);
+      if (!UTFEncoder::isValid(utf8)) giveUp();
+      text.take(utf8, memory_, left() - size);
+    }
+    at_ += size;
     done();
-    return true;
-  }
-
-  // False for bytes that are no text; the text stays as it was.
-  HERALD_OUT_OF_LINE static bool takeText(Text& text, const std::uint8_t* bytes, std::size_t size,
-                                          MessageMemory* memory, std::size_t bytesToCome) {
-    const std::string_view utf8(reinterpret_cast<const char*>(bytes), size);
-    if (!UTFEncoder::isValid(utf8)) return false;
-    text.take(utf8, memory, bytesToCome);
-    return true;
   }
 
   template <WireText T>
-  HERALD_IN_LINE bool readText(T& text) {
-    return readByHand(text);
+  HERALD_IN_LINE void readText(T& text) {
+    const std::size_t size = beginText();
+    const std::string_view utf8 = textAt(at_, size);
+    if (!UTFEncoder::isValid(utf8)) giveUp();
+    text.take(utf8);
+    heldOutside_ = true;
+    at_ += size;
+    done();
+  }
+
+  // The number of bytes of the text, before which the reader stands then.
+  HERALD_IN_LINE std::size_t beginText() {
+    begin();
+    const std::size_t size = static_cast<std::uint16_t>(take<std::int16_t>());
+    want(size + promised_);
+    return size;
+  }
+
+  static std::string_view textAt(const std::uint8_t* bytes, std::size_t size) {
+    return {reinterpret_cast<const char*>(bytes), size};
   }
 
   template <class T>

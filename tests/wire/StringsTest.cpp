@@ -116,6 +116,17 @@ class Reporter : public BugReporterInterface {
   int reports = 0;
 };
 
+// A text of a list is reported once, also when the list turns out to be cut short behind it.
+TEST(TsString, IsReportedOnceInAListThatIsCutShort) {
+  const WithRecordingSink recording;
+  ByteStream in(toBytes(R"(0003 0001 FF 0006 "abcdef")"));
+  InfoList<TsString> list;
+  EXPECT_TRUE(list.read(in));
+  EXPECT_EQ(list.getNrInfos(), 3);
+  EXPECT_EQ(list[1].getString(), L"abcdef");
+  EXPECT_EQ(recording.sink->reports.size(), 2u) << "of the first and the last";
+}
+
 TEST(TsString, KeepsItsTextAndTellsItsReporterWhenAReadFails) {
   const WithRecordingSink recording;
   Reporter reporter;

@@ -8,13 +8,6 @@
 
 namespace Tessel {
 
-namespace {
-
-// Three numbers of 16 bits, an empty name, and three bytes.
-constexpr std::size_t SMALLEST_NODE = 3 * sizeof(std::int16_t) + sizeof(std::uint16_t) + 3 * sizeof(std::int8_t);
-
-}  // namespace
-
 // Goes through a tree in wire order: a node, then its sub-nodes. The sub-nodes may be added while the walk stands at
 // their node.
 template <class Node>
@@ -99,6 +92,9 @@ const TreeNodeInfo* TreeNodeInfo::getNodeInTree(int id) const {
   return node;
 }
 
+// Without a name, and without sub-nodes but their count.
+std::size_t TreeNodeInfo::smallestNode() { return minimumWireSize<OwnFields>() + sizeof(std::int8_t); }
+
 // Reads a tree by calls, one for each level; throws `StraightReadEnded` for one that is deep or not in order.
 class TreeNodeInfo::StraightWalk {
  public:
@@ -107,8 +103,8 @@ class TreeNodeInfo::StraightWalk {
 
   void readNode(TreeNodeInfo& node, int levelsLeft) {
     const auto left = static_cast<std::size_t>(end_ - at_);
-    if (left < SMALLEST_NODE || levelsLeft == 0) throw StraightReadEnded{0, true};
-    StraightReader<> reader(in_, memory_, at_, end_, SMALLEST_NODE);
+    if (left < smallest_ || levelsLeft == 0) throw StraightReadEnded{0, true};
+    StraightReader<> reader(in_, memory_, at_, end_, smallest_);
     OwnFields::wire(node.fields_, reader);
     std::int8_t count = 0;
     reader("", count);
@@ -126,7 +122,7 @@ class TreeNodeInfo::StraightWalk {
   void readSubNodes(List<TreeNodeInfo>& subNodes, std::size_t count, int levelsLeft) {
     nodesToCome_ += count;
     const auto left = static_cast<std::size_t>(end_ - at_);
-    if (nodesToCome_ > left / SMALLEST_NODE) throw StraightReadEnded{0, true};
+    if (nodesToCome_ > left / smallest_) throw StraightReadEnded{0, true};
     makeRoom(subNodes, count, memory_, left);
     for (std::size_t i = 0; i < count; ++i) readNode(subNodes.append(), levelsLeft);
     subNodes.settle();
@@ -136,6 +132,7 @@ class TreeNodeInfo::StraightWalk {
   MessageMemory* memory_;
   const std::uint8_t* at_;
   const std::uint8_t* end_;
+  std::size_t smallest_ = smallestNode();
   std::size_t nodesToCome_ = 1;
 };
 
@@ -156,6 +153,7 @@ bool TreeNodeInfo::readIn(ByteStream& in, MessageMemory* memory) {
 }
 
 void TreeNodeInfo::readByTheRules(ByteStream& in) {
+  const std::size_t smallest = smallestNode();
   std::size_t nodesToCome = 1;
   Walk<TreeNodeInfo> walk(*this);
   while (TreeNodeInfo* node = walk.next()) {
@@ -167,7 +165,7 @@ void TreeNodeInfo::readByTheRules(ByteStream& in) {
     if (count <= 0) continue;
     nodesToCome += static_cast<std::size_t>(count);
     // Nodes that promise more sub-nodes than the bytes can hold, one below the other, must not cost memory.
-    if (nodesToCome > in.unreadCount() / SMALLEST_NODE)
+    if (nodesToCome > in.unreadCount() / smallest)
       throwCountPastEnd(static_cast<std::int64_t>(nodesToCome), in.unreadCount());
     node->subNodes_.resize(static_cast<std::size_t>(count));
   }

@@ -84,6 +84,7 @@ class HERALD_API TreeNodeInfo : public ReadableInfo {
   class Walk;
   class StraightWalk;
 
+  static std::size_t smallestNode();
   void readByTheRules(ByteStream& in);
 
   bool hasNodeType(int bit) const;

@@ -19,6 +19,8 @@ class HERALD_API TsString : public ReadableWritableInfo {
   /// A lone surrogate is kept, but cannot be written. What lies above U+10FFFF becomes U+FFFD.
   void setString(std::wstring_view text);
   const std::string& getUTF8() const { return utf8_; }
+  /// Takes bytes that are valid UTF-8.
+  void take(std::string_view utf8) { utf8_ = utf8; }
 
   /// Who is told of a text that cannot be read or written; null, as at first, is the process-wide reporter. Not owned:
   /// it must outlive this string and its copies.
