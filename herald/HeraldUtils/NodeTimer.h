@@ -18,6 +18,7 @@ class HERALD_API NodeTimer {
 
   int getId() const { return id_; }
   char getType() const { return type_; }
+  /// In milliseconds of `SystemClock::getProcessClock`.
   long getTimeStamp() const { return timeStamp_; }
   /// Stores the type and answers it, sign-extended.
   int setType(char type);

@@ -87,6 +87,7 @@ class HERALD_API ServerInTurnAction : public ImprovedRequest<ServerInTurnAction,
   int getPlayerSeat() const { return playerSeat_; }
   int getBetRound() const { return betRound_; }
   InTurnAction::InTurnActionType getActionType() const { return InTurnAction::InTurnActionType{actionType_}; }
+  /// In the smallest units of the table's currency, or in its chips.
   std::int64_t getAmount() const { return amount_.getAmount(); }
 
   std::wstring toDebugString() const override;
@@ -206,6 +207,7 @@ class HERALD_API ReserveMoney : public WireRequest<ReserveMoney, -32> {
   ReserveMoney() = default;
   explicit ReserveMoney(std::int64_t amount) : amount_(amount) {}
 
+  /// In the smallest units of the table's currency, or in its chips.
   std::int64_t getAmount() const { return amount_; }
 
   std::wstring toDebugString() const override;

@@ -20,6 +20,7 @@ class HERALD_API BetRequestInfo : public ReadableRecord<BetRequestInfo> {
   /// The first for that seat, or null. The record stays this object's.
   const PlayerActionsInfo* getPlayerActionsInfoForSeat(int seat) const;
 
+  /// In seconds, here and below.
   int getTotalTime() const { return totalTime_; }
   int getTimeLeft() const { return timeLeft_; }
 

@@ -9,6 +9,7 @@ namespace Tessel {
 class HERALD_API ChangeCardsInfo : public ReadableRecord<ChangeCardsInfo> {
  public:
   int getSeat() const { return seat_; }
+  /// In seconds, here and below.
   int getTimeLeft() const { return timeLeft_; }
   int getTotalTime() const { return totalTime_; }
 

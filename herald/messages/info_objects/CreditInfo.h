@@ -13,6 +13,7 @@ class HERALD_API CreditInfo : public ReadableWritableRecord<CreditInfo> {
 
   int getPlayerId() const { return playerId_; }
   int getSeat() const { return seat_; }
+  /// In the smallest units of the table's currency, or in its chips.
   std::int64_t getAmount() const { return amount_.getAmount(); }
 
   std::wstring toDebugString() const override;

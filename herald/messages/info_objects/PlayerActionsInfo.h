@@ -31,6 +31,7 @@ class HERALD_API PlayerActionsInfo : public ReadableRecord<PlayerActionsInfo> {
   bool mayCallAny() const { return may(MAY_CALL_ANY); }
   bool mayBetRaise() const { return may(MAY_BET_RAISE); }
   bool mayBetRaiseAny() const { return may(MAY_BET_RAISE_ANY); }
+  /// In the smallest units of the table's currency, or in its chips, as the bets.
   std::int64_t getCheckCallValue() const { return checkCallValue_.getAmount(); }
   BetType getBetType() const { return convertBetType(betTypeCode_); }
 

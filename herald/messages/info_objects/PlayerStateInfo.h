@@ -11,6 +11,7 @@ class HERALD_API PlayerStateInfo : public ReadableRecord<PlayerStateInfo> {
   PlayerInGameInfo getPlayerInGameInfo() const { return player_; }
   /// The same without a copy; it stays this object's.
   const PlayerInGameInfo& player() const { return player_; }
+  /// In the smallest units of the table's currency, or in its chips.
   std::int64_t getBetsNotInPot() const { return betsNotInPot_.getAmount(); }
   bool isSittingIn() const { return sittingIn_; }
   bool isSlow() const { return slow_; }

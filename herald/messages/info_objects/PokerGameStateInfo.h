@@ -11,6 +11,7 @@ class HERALD_API PokerGameStateInfo : public ReadableRecord<PokerGameStateInfo> 
  public:
   const PokerRulesInfo& getPokerRulesInfo() const { return rules_; }
   int getDealerSeat() const { return dealerSeat_; }
+  /// In the smallest units of the table's currency, or in its chips, as the rake.
   std::int64_t getPotValue() const { return pot_.getAmount(); }
   int getCurrentBettingRound() const { return currentBettingRound_; }
 

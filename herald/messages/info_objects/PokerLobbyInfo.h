@@ -9,6 +9,7 @@ namespace Tessel {
 class HERALD_API PokerLobbyInfo : public ReadableRecord<PokerLobbyInfo, LobbyInfo> {
  public:
   const PokerRulesInfo& getPokerRules() const { return rules_; }
+  /// In the smallest units of the table's currency, or in its chips.
   std::int64_t getAveragePot() const { return averagePot_.getAmount(); }
   int getHandsPerHour() const { return handsPerHour_; }
   int getPlayersFlop() const { return playersFlop_; }

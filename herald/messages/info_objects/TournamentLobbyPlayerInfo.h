@@ -22,9 +22,11 @@ class HERALD_API TournamentLobbyPlayerInfo : public ReadableRecord<TournamentLob
   int getPlayerId() const { return playerId_; }
   std::wstring getNick() const { return nick_.getString(); }
   int getRanking() const { return ranking_; }
+  /// In chips of the tournament.
   std::int64_t getCredits() const { return credits_.getAmount(); }
   int getStatus() const { return status_; }
   int getTableId() const { return tableId_; }
+  /// In milliseconds.
   int getPing() const { return ping_; }
 
   /// Empty.

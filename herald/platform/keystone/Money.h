@@ -13,6 +13,7 @@ class HERALD_API Money {
   constexpr Money() = default;
   constexpr Money(std::int64_t amount, int monetaryUnitId) : amount_(amount), monetaryUnitId_(monetaryUnitId) {}
 
+  /// In the smallest units of the monetary unit's currency, or in chips.
   constexpr std::int64_t getAmount() const { return amount_; }
   constexpr int getMonetaryUnitId() const { return monetaryUnitId_; }
 
