@@ -18,7 +18,7 @@
 using namespace Tessel;
 
 // Not an unnamed namespace: what is instantiated in one and not called is left out.
-namespace exports {
+namespace Exports {
 
 // Nothing is derived from a final class.
 template <class T>
@@ -194,12 +194,12 @@ bool readsOwnRecord() {
   return MyRecord(7).write(stream) && read.read(stream) && read.getValue() == 7;
 }
 
-}  // namespace exports
+}  // namespace Exports
 
 int main() {
   int classes = 0;
   int constants = 0;
-#define EXPORTED_CLASS(NAME) classes += exports::use<NAME>();
+#define EXPORTED_CLASS(NAME) classes += Exports::use<NAME>();
 #define EXPORTED_CONSTANT(NAME)        \
   {                                    \
     const auto& constant = NAME;       \
@@ -207,8 +207,8 @@ int main() {
   }
 #include "exports.inc"
   if (classes == 0 || constants == 0) return std::puts("exports: nothing was found in the headers"), 1;
-  if (!exports::deliversOwnFamily()) return std::puts("exports: a family of the user's own is not delivered"), 1;
-  if (!exports::readsOwnRecord()) return std::puts("exports: a record of the user's own is not read back"), 1;
+  if (!Exports::deliversOwnFamily()) return std::puts("exports: a family of the user's own is not delivered"), 1;
+  if (!Exports::readsOwnRecord()) return std::puts("exports: a record of the user's own is not read back"), 1;
   std::printf("exports: %d classes, %d constants\n", classes, constants);
   return 0;
 }
