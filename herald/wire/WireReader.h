@@ -151,7 +151,7 @@ class WireReader {
     }
   }
 
-  bool readText(Text& text);
+  HERALD_API bool readText(Text& text);
   template <WireText T>
   bool readText(T& text) {
     return text.T::read(in_);
