@@ -48,7 +48,7 @@ class HERALD_API MailBox {
   // While the mailbox calls out under its lock, what it calls may come back on the same thread. Noting the thread only
   // then makes the lock recursive at the price of a plain one. It takes no order among threads: the one value that a
   // thread acts on is the one that it wrote itself.
-  class CallingOut {
+  class HERALD_API CallingOut {
    public:
     explicit CallingOut(MailBox& box) : box_(box), outer_(box.calling_.load(std::memory_order_relaxed)) {
       box.calling_.store(std::this_thread::get_id(), std::memory_order_relaxed);
