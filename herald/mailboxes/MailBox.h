@@ -13,6 +13,24 @@
 
 namespace Tessel {
 
+/// While a mailbox calls out under its lock, what it calls may come back on the same thread. Noting the thread only
+/// then makes the lock recursive at the price of a plain one. It takes no order among threads: the one value that a
+/// thread acts on is the one that it wrote itself.
+class MailBoxCallingOut {
+ public:
+  explicit MailBoxCallingOut(std::atomic<std::thread::id>& calling)
+      : calling_(calling), outer_(calling.load(std::memory_order_relaxed)) {
+    calling_.store(std::this_thread::get_id(), std::memory_order_relaxed);
+  }
+  ~MailBoxCallingOut() { calling_.store(outer_, std::memory_order_relaxed); }
+  MailBoxCallingOut(const MailBoxCallingOut&) = delete;
+  MailBoxCallingOut& operator=(const MailBoxCallingOut&) = delete;
+
+ private:
+  std::atomic<std::thread::id>& calling_;
+  std::thread::id outer_;
+};
+
 /// The hand-over point of messages between threads: any thread posts, one consumer picks up, in the order of posting. T
 /// is the base class of a message family. Every operation is safe from any thread and holds the mailbox's lock for its
 /// whole work, the call into the post office included; that lock is recursive, so the post office may call back into
@@ -45,23 +63,6 @@ class HERALD_API MailBox {
   [[nodiscard]] std::vector<std::unique_ptr<T>> pickupAll();
 
  private:
-  // While the mailbox calls out under its lock, what it calls may come back on the same thread. Noting the thread only
-  // then makes the lock recursive at the price of a plain one. It takes no order among threads: the one value that a
-  // thread acts on is the one that it wrote itself.
-  class HERALD_API CallingOut {
-   public:
-    explicit CallingOut(MailBox& box) : box_(box), outer_(box.calling_.load(std::memory_order_relaxed)) {
-      box.calling_.store(std::this_thread::get_id(), std::memory_order_relaxed);
-    }
-    ~CallingOut() { box_.calling_.store(outer_, std::memory_order_relaxed); }
-    CallingOut(const CallingOut&) = delete;
-    CallingOut& operator=(const CallingOut&) = delete;
-
-   private:
-    MailBox& box_;
-    std::thread::id outer_;
-  };
-
   bool isCalledBack() const {
     const std::thread::id calling = calling_.load(std::memory_order_relaxed);
     return calling != std::thread::id() && calling == std::this_thread::get_id();
@@ -74,7 +75,7 @@ class HERALD_API MailBox {
 
   void tell(void (PostOffice::*event)()) {
     if (postOffice_ == nullptr) return;
-    const CallingOut callingOut(*this);
+    const MailBoxCallingOut callingOut(calling_);
     try {
       (postOffice_->*event)();
     } catch (...) {
@@ -121,7 +122,7 @@ inline T* MailBox<T, N>::takeOldest() {
 template <class T, int N>
 MailBox<T, N>::~MailBox() {
   const auto held = hold();
-  const CallingOut messageDestructors(*this);
+  const MailBoxCallingOut messageDestructors(calling_);
   while (!queue_.isEmpty()) {
     std::unique_ptr<T>(queue_.pop()).reset();
     tell(&PostOffice::pickup);
