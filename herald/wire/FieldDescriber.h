@@ -29,13 +29,15 @@ class FieldDescriber : public LayoutVisitor<FieldDescriber> {
   }
 
   template <class List>
-  void itemsOf(std::string_view name, const List& list) {
+  void itemsOf(std::string_view name, const List& list, const CountFrom& count) {
+    if (sink_.wantsLayout()) sink_.countedBy(count.field);
     tellList(name, WireType::NONE, static_cast<std::int64_t>(list.size()), list);
   }
 
-  bool enter(bool present) {
-    sink_.beginConditional(present);
-    return present || sink_.wantsLayout();
+  bool enter(const Condition& condition) {
+    if (sink_.wantsLayout()) sink_.underCondition(condition);
+    sink_.beginConditional(condition);
+    return condition || sink_.wantsLayout();
   }
   void leave() { sink_.endConditional(); }
 

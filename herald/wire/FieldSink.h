@@ -6,6 +6,8 @@
 
 namespace Tessel {
 
+struct Condition;
+
 /// How a value travels. NONE is the count of a list that the bytes do not carry: an earlier field gives it.
 enum class WireType : std::uint8_t { NONE, BOOL, BYTE, SHORT, INT, INT64, STRING };
 
@@ -49,8 +51,17 @@ class HERALD_API FieldSink {
   virtual void beginConditional(bool present) = 0;
   virtual void endConditional() = 0;
 
-  /// A sink that answers true is told the layout instead of the values: one item per list, and every conditional field.
+  /// A sink that answers true is told the layout instead of the values: one item per list, and every conditional field,
+  /// with their starting values, and the rules below, each before what it is about.
   virtual bool wantsLayout() const { return false; }
+
+  /// The next conditional part travels under this condition.
+  virtual void underCondition(const Condition&) {}
+  /// The next list has as many items as the earlier field of this name says, or, if that is a list, has.
+  virtual void countedBy(std::string_view) {}
+  /// The items of the next list are of the class that the earlier text of this name says: the list is told one of each
+  /// class, named by that text.
+  virtual void taggedBy(std::string_view) {}
 };
 
 }  // namespace Tessel

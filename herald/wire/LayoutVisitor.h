@@ -1,4 +1,5 @@
 #pragma once
+#include <herald/wire/Condition.h>
 #include <herald/wire/WireTypes.h>
 
 #include <cstdint>
@@ -33,8 +34,8 @@ class LayoutVisitor {
     self().field(name, text);
   }
   template <class T>
-  void onlyIf(bool present, std::string_view name, const T& field) {
-    if (self().enter(present)) self().field(name, field);
+  void onlyIf(const Condition& condition, std::string_view name, const T& field) {
+    if (self().enter(condition)) self().field(name, field);
     self().leave();
   }
 
@@ -59,12 +60,12 @@ class LayoutVisitor {
     self().template list<Count>(name, count, list);
   }
   template <class List>
-  void items(std::string_view name, const List& list, std::int32_t) {
-    self().itemsOf(name, list);
+  void items(std::string_view name, const List& list, const CountFrom& count) {
+    self().itemsOf(name, list, count);
   }
   template <class List>
-  void itemsIf(bool present, std::string_view name, const List& list, std::int32_t) {
-    if (self().enter(present)) self().itemsOf(name, list);
+  void itemsIf(const Condition& condition, std::string_view name, const List& list, const CountFrom& count) {
+    if (self().enter(condition)) self().itemsOf(name, list, count);
     self().leave();
   }
 

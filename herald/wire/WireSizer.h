@@ -34,11 +34,16 @@ class WireSizer : public LayoutVisitor<WireSizer> {
   template <class Count, class List>
   void list(std::string_view name, std::int64_t, const List& list) {
     size_ += sizeof(Count);
-    itemsOf(name, list);
+    allOf(name, list);
   }
 
   template <class List>
-  void itemsOf(std::string_view name, const List& list) {
+  void itemsOf(std::string_view name, const List& list, const CountFrom&) {
+    allOf(name, list);
+  }
+
+  template <class List>
+  void allOf(std::string_view name, const List& list) {
     for (const auto& item : list) field<typename List::value_type>(name, item);
   }
 

@@ -40,6 +40,15 @@ consteval std::string_view recordName() {
     return typeName<T>();
 }
 
+/// The name that descriptions give the one record of a message or request: Owner::FIELD, or "body".
+template <class Owner>
+consteval const char* bodyName() {
+  if constexpr (requires { Owner::FIELD; })
+    return Owner::FIELD;
+  else
+    return "body";
+}
+
 // A field is one of: a number, a text, a layout (a class that declares `wire`), or a class that reads and describes
 // itself by hand.
 

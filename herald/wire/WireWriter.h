@@ -90,11 +90,16 @@ class WireWriter : public LayoutVisitor<WireWriter> {
       return;
     }
     field(name, static_cast<Count>(count));
-    itemsOf(name, list);
+    allOf(name, list);
   }
 
   template <class List>
-  void itemsOf(std::string_view name, const List& list) {
+  void itemsOf(std::string_view name, const List& list, const CountFrom&) {
+    allOf(name, list);
+  }
+
+  template <class List>
+  void allOf(std::string_view name, const List& list) {
     for (const auto& item : list) field<typename List::value_type>(name, item);
   }
 

@@ -28,7 +28,8 @@ class HERALD_API CardsInfo : public ReadableRecord<CardsInfo> {
   static void wire(Self& self, Fields& fields) {
     fields.template counted<std::int32_t>("cards", self.cards_);
     fields("hasWinningCards", self.hasWinningCards_);
-    fields.itemsIf(self.hasWinningCards_, "winningCards", self.winningCards_, self.getNrCards());
+    fields.itemsIf(isTrue("hasWinningCards", self.hasWinningCards_), "winningCards", self.winningCards_,
+                   CountFrom("cards", self.getNrCards()));
   }
 
  private:

@@ -79,6 +79,10 @@ std::wstring InfoVector::toDebugString() const {
 void InfoVector::describe(FieldSink& sink) const {
   sink.number("count", WireType::INT, size());
   sink.text("type", typeString_.getUTF8(), false);
+  if (sink.wantsLayout()) {
+    sink.countedBy("count");
+    sink.taggedBy("type");
+  }
   sink.beginList("elements", WireType::NONE, size());
   if (sink.wantsLayout()) {
     for (const ElementClass& row : ELEMENT_CLASSES)

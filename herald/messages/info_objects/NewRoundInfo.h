@@ -24,7 +24,7 @@ class HERALD_API NewRoundInfo : public ReadableRecord<NewRoundInfo> {
     fields("handNumber", self.handNumber_);
     fields("nrOfPlayers", self.nrOfPlayers_);
     fields.onRead(self, &NewRoundInfo::hasPlayers);
-    fields.items("players", self.players_, self.nrOfPlayers_);
+    fields.items("players", self.players_, CountFrom("nrOfPlayers", self.nrOfPlayers_));
   }
 
  private:

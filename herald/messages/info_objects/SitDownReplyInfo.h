@@ -16,7 +16,7 @@ class HERALD_API SitDownReplyInfo : public ReadableRecord<SitDownReplyInfo> {
  public:
   SitDownStatus getStatus() const { return static_cast<SitDownStatus>(status_); }
   bool isSatDown() const { return getStatus() == SitDownStatus::SAT_DOWN; }
-  bool isRefusedDueToMoney() const;
+  bool isRefusedDueToMoney() const { return refusedDueToMoney(); }
   bool isRefusedDueToSystem() const { return getStatus() == SitDownStatus::REFUSED_DUE_TO_SYSTEM; }
   Money getMoney() const { return money_.getMoney(); }
 
@@ -25,10 +25,15 @@ class HERALD_API SitDownReplyInfo : public ReadableRecord<SitDownReplyInfo> {
   template <class Self, class Fields>
   static void wire(Self& self, Fields& fields) {
     fields("status", self.status_);
-    fields.onlyIf(self.isRefusedDueToMoney(), "money", self.money_);
+    fields.onlyIf(self.refusedDueToMoney(), "money", self.money_);
   }
 
  private:
+  Condition refusedDueToMoney() const {
+    return isBetween("status", status_, static_cast<int>(SitDownStatus::FIRST_REFUSED_DUE_TO_MONEY),
+                     static_cast<int>(SitDownStatus::LAST_REFUSED_DUE_TO_MONEY));
+  }
+
   std::int8_t status_ = -1;
   MoneyAmount money_;
 };

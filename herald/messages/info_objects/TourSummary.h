@@ -104,8 +104,9 @@ class HERALD_API TourSummary : public ReadableRecord<TourSummary>, public LobbyN
     fields("clientRegistrationTime", self.clientRegistrationTime_);
     fields("levelStructure", self.levelStructure_);
     fields("ownerId", self.ownerId_);
-    fields.onlyIf(self.hasRebuys(), "rebuyInfo", self.rebuyInfo_);
-    fields.onlyIf(self.isFlight(), "flightInfo", self.flightInfo_);
+    fields.onlyIf(hasBit("attributes", self.attributes_, TourSummaryAttributes::REBUYS), "rebuyInfo", self.rebuyInfo_);
+    fields.onlyIf(hasBit("attributes", self.attributes_, TourSummaryAttributes::FLIGHT), "flightInfo",
+                  self.flightInfo_);
     fields("regStatus", self.regStatus_);
   }
 

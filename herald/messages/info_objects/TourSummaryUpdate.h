@@ -40,7 +40,8 @@ class HERALD_API TourSummaryUpdate : public ReadableRecord<TourSummaryUpdate> {
     fields("currentNumPlayers", self.currentNumPlayers_);
     fields("prizeStructureUpdate", self.prizeStructureUpdate_);
     fields("startTime", self.startTime_);
-    fields.onlyIf(self.isFlight(), "numPlayersInMainEvent", self.numPlayersInMainEvent_);
+    fields.onlyIf(hasBit("attributes", self.attributes_, TourSummaryAttributes::FLIGHT), "numPlayersInMainEvent",
+                  self.numPlayersInMainEvent_);
     fields("regStatus", self.regStatus_);
   }
 

@@ -31,7 +31,7 @@ class HERALD_API VIPPlayerInfo : public ReadableRecord<VIPPlayerInfo> {
     fields("playerId", self.playerId_);
     fields("isPlaying", self.isPlaying_);
     fields("gameKind", self.gameKind_);
-    fields.onlyIf(self.gameKind_ == KIND_WITH_GAME_ID, "gameId", self.gameId_);
+    fields.onlyIf(equals("gameKind", self.gameKind_, KIND_WITH_GAME_ID), "gameId", self.gameId_);
     fields("vipType", self.vipType_);
     fields("vipName", self.vipName_);
     fields("vipStatus", self.vipStatus_);

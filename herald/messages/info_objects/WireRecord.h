@@ -1,6 +1,7 @@
 #pragma once
 #include <herald/messages/info_objects/ReadableObjectInfo.h>
 #include <herald/messages/info_objects/WritableObjectInfo.h>
+#include <herald/wire/Condition.h>
 #include <herald/wire/WireTypes.h>
 
 // A record declares its fields once:
