@@ -29,6 +29,7 @@
 #include <herald/inspect/FieldList.h>
 #include <herald/inspect/Inspectable.h>
 #include <herald/inspect/Json.h>
+#include <herald/inspect/Requests.h>
 #include <herald/mailboxes/BasicTexasStatControllerMessages.h>
 #include <herald/mailboxes/GameModelNotifMessages.h>
 #include <herald/mailboxes/LobbyToGameMessages.h>

@@ -14,14 +14,4 @@ std::wstring textAround(const Record& body) {
     return format(Owner::TEXT, body);
 }
 
-/// Describes the record under the name Owner::FIELD, or "body".
-template <class Owner, class Record>
-void describeBody(const Record& body, FieldSink& sink) {
-  FieldDescriber describer(sink);
-  if constexpr (requires { Owner::FIELD; })
-    describer(Owner::FIELD, body);
-  else
-    describer("body", body);
-}
-
 }  // namespace Tessel

@@ -42,7 +42,7 @@ std::wstring RecordMessage<Self, Record, RESULT>::toDebugString() const {
 
 template <class Self, class Record, ReadResult RESULT>
 void RecordMessage<Self, Record, RESULT>::describe(FieldSink& sink) const {
-  describeBody<Self>(body_, sink);
+  FieldDescriber{sink}(bodyName<Self>(), body_);
 }
 
 template <class Self>

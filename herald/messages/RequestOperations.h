@@ -40,7 +40,7 @@ void EmptyRequest<Self, REQUEST_ID>::describe(FieldSink&) const {}
 
 template <class Self, short REQUEST_ID, class Record>
 bool RecordRequest<Self, REQUEST_ID, Record>::write(ByteStream& out) const {
-  return writeFrame(REQUEST_ID, body_, out);
+  return writeFrame(REQUEST_ID, static_cast<const Self&>(*this), out);
 }
 
 template <class Self, short REQUEST_ID, class Record>
@@ -50,7 +50,7 @@ std::wstring RecordRequest<Self, REQUEST_ID, Record>::toDebugString() const {
 
 template <class Self, short REQUEST_ID, class Record>
 void RecordRequest<Self, REQUEST_ID, Record>::describe(FieldSink& sink) const {
-  describeBody<Self>(body_, sink);
+  describeLayout(static_cast<const Self&>(*this), sink);
 }
 
 template <class Self, short REQUEST_ID>

@@ -20,8 +20,13 @@ std::unique_ptr<ServerMessage> create() {
 }
 
 template <class Request>
+bool read(ServerMessage& request, ByteStream& body) {
+  return readLayout(static_cast<Request&>(request), body);
+}
+
+template <class Request>
 constexpr ServerMessageRow row() {
-  return {Request::ID, typeName<Request>(), create<Request>};
+  return {Request::ID, typeName<Request>(), create<Request>, read<Request>};
 }
 
 constexpr ServerMessageRow ROWS[] = {

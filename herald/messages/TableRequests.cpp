@@ -20,6 +20,6 @@ bool ServerCards::write(ByteStream&) const { return false; }
 
 std::wstring ServerCards::toDebugString() const { return format(L"[ServerCards: %s]", cards_); }
 
-void ServerCards::describe(FieldSink& sink) const { describeBody<ServerCards>(cards_, sink); }
+void ServerCards::describe(FieldSink& sink) const { FieldDescriber{sink}("body", cards_); }
 
 }  // namespace Tessel

@@ -19,9 +19,13 @@ class HERALD_API EmptyRequest : public ServerMessage {
   [[nodiscard]] bool write(ByteStream& out) const override;
   std::wstring toDebugString() const override;
   void describe(FieldSink& sink) const override;
+
+  template <class Request, class Fields>
+  static void wire(Request&, Fields&) {}
 };
 
-/// A request whose body is one record. Self::TEXT is its debug format, with one %s for the record, or none.
+/// A request whose body is one record. Self::TEXT is its debug format, with one %s for the record, or none;
+/// Self::FIELD, where there is one, names the record in descriptions, which call it "body" otherwise.
 template <class Self, short REQUEST_ID, class Record>
 class HERALD_API RecordRequest : public ServerMessage {
  public:
@@ -30,6 +34,11 @@ class HERALD_API RecordRequest : public ServerMessage {
   [[nodiscard]] bool write(ByteStream& out) const override;
   std::wstring toDebugString() const override;
   void describe(FieldSink& sink) const override;
+
+  template <class Request, class Fields>
+  static void wire(Request& self, Fields& fields) {
+    fields(bodyName<Self>(), self.body_);
+  }
 
  protected:
   RecordRequest() = default;
