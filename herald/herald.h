@@ -30,6 +30,7 @@
 #include <herald/inspect/Inspectable.h>
 #include <herald/inspect/Json.h>
 #include <herald/inspect/Requests.h>
+#include <herald/inspect/Schema.h>
 #include <herald/mailboxes/BasicTexasStatControllerMessages.h>
 #include <herald/mailboxes/GameModelNotifMessages.h>
 #include <herald/mailboxes/LobbyToGameMessages.h>

@@ -1,11 +1,7 @@
 #include <herald/inspect/Catalogue.h>
-#include <herald/messages/ClientMessageTable.h>
-#include <herald/messages/ServerMessageTable.h>
-#include <herald/wire/FieldSink.h>
+#include <herald/inspect/Schema.h>
 
 #include <map>
-#include <utility>
-#include <vector>
 
 namespace Tessel {
 
@@ -48,109 +44,63 @@ std::string fieldLine(std::string_view name, std::string_view type) {
   return line + std::string(type) + '\n';
 }
 
-// What the messages reach.
-struct Reached {
-  // The lines of each record, by its name.
-  std::map<std::string, std::string> records;
-  // The record of each type string of a tagged list.
-  std::map<std::string, std::string> typeStrings;
-};
-
-// Prints a layout to `lines` and, once each, the records that it reaches.
-class LayoutSink final : public FieldSink {
- public:
-  LayoutSink(Reached& reached, std::string& lines) : reached_(reached), open_{{.lines = &lines}} {}
-
-  bool wantsLayout() const override { return true; }
-
-  void number(std::string_view name, WireType type, std::int64_t) override { add(name, nameOf(type)); }
-
-  void text(std::string_view name, std::string_view, bool secret) override {
-    add(name, secret ? "string, secret" : "string");
+std::string typeOf(const FieldSchema& field) {
+  switch (field.kind) {
+    case FieldKind::NUMBER:
+      return std::string(nameOf(field.type));
+    case FieldKind::TEXT:
+      return field.isSecret ? "string, secret" : "string";
+    case FieldKind::RECORD:
+      return field.record->name;
+    case FieldKind::LIST:
+      break;
   }
+  std::string type = "list of " + (field.tagField ? "the record of the type string" : typeOf(field.items.front()));
+  if (field.type != WireType::NONE) type.append(", ").append(nameOf(field.type)).append(" count");
+  return type;
+}
 
-  bool beginRecord(std::string_view name, std::string_view type) override {
-    add(name, type);
-    const auto [record, isNew] = reached_.records.try_emplace(std::string(type));
-    open_.push_back({.lines = &record->second});
-    return isNew;
-  }
-  void endRecord() override { open_.pop_back(); }
+std::string linesOf(const RecordSchema& record) {
+  std::string lines;
+  for (const FieldSchema& field : record.fields)
+    lines += fieldLine(field.name, typeOf(field) + (field.condition ? ", conditional" : ""));
+  return lines;
+}
 
-  void beginList(std::string_view name, WireType countType, std::int64_t) override {
-    open_.push_back({.listName = std::string(name), .countType = countType});
-  }
-
-  void endList() override {
-    const Scope list = std::move(open_.back());
-    open_.pop_back();
-    std::string type = "list of " + list.itemType;
-    if (list.countType != WireType::NONE) type.append(", ").append(nameOf(list.countType)).append(" count");
-    add(list.listName, type);
-  }
-
-  void beginConditional(bool) override { open_.back().isConditional = true; }
-  void endConditional() override { open_.back().isConditional = false; }
-
- private:
-  // A record or message, which has lines, or a list, which has items.
-  struct Scope {
-    std::string* lines = nullptr;
-    bool isConditional = false;
-    std::string listName{};
-    WireType countType = WireType::NONE;
-    std::string itemType{};
-  };
-
-  void add(std::string_view name, std::string_view type) {
-    Scope& scope = open_.back();
-    if (scope.lines != nullptr)
-      *scope.lines += fieldLine(name, std::string(type) + (scope.isConditional ? ", conditional" : ""));
-    else
-      addItem(scope, name, type);
-  }
-
-  // The items of a tagged list, one of each class, have names: the type strings.
-  void addItem(Scope& list, std::string_view name, std::string_view type) {
-    if (name.empty()) {
-      list.itemType = type;
-      return;
-    }
-    list.itemType = "the record of the type string";
-    reached_.typeStrings.emplace(name, type);
-  }
-
-  Reached& reached_;
-  std::vector<Scope> open_;
-};
-
-template <class Row>
-std::string printMessages(std::string_view heading, std::span<const Row> rows, Reached& reached) {
-  std::string text = "\n" + std::string(heading) + "\n";
-  for (const Row& row : rows) {
-    text += '\n' + std::to_string(row.id) + ' ';
-    if (row.create == nullptr) {
-      text += "(creates no message)\n";
-      continue;
-    }
-    text += std::string(row.name) + "\n";
-    LayoutSink sink(reached, text);
-    row.create()->describe(sink);
+std::string printMessages(std::string_view heading, std::span<const MessageSchema> messages) {
+  std::string text = "\n";
+  text.append(heading).append("\n");
+  for (const MessageSchema& message : messages) {
+    text.append("\n").append(std::to_string(message.id)).append(" ");
+    text += message.body != nullptr ? message.body->name + '\n' + linesOf(*message.body) : "(creates no message)\n";
   }
   return text;
+}
+
+// The record of each type string of a tagged list.
+std::map<std::string, std::string> typeStringsOf(const Schema& schema) {
+  std::map<std::string, std::string> typeStrings;
+  for (const auto& [name, record] : schema.records()) {
+    for (const FieldSchema& field : record.fields) {
+      if (!field.tagField) continue;
+      for (const FieldSchema& item : field.items) typeStrings.emplace(item.name, item.record->name);
+    }
+  }
+  return typeStrings;
 }
 
 }  // namespace
 
 std::string protocolCatalogue() {
-  Reached reached;
+  const Schema& schema = Schema::ofProtocol();
   std::string text(LEGEND);
-  text += printMessages("MESSAGES FROM SERVERS", clientMessageTable(), reached);
-  text += printMessages("REQUESTS TO SERVERS", serverMessageTable(), reached);
+  text += printMessages("MESSAGES FROM SERVERS", schema.messages());
+  text += printMessages("REQUESTS TO SERVERS", schema.requests());
   text += "\nRECORDS\n";
-  for (const auto& [name, lines] : reached.records) text.append("\n").append(name).append("\n").append(lines);
+  for (const auto& [name, record] : schema.records())
+    text.append("\n").append(name).append("\n").append(linesOf(record));
   text += "\nTYPE STRINGS\n\n";
-  for (const auto& [typeString, record] : reached.typeStrings) text += fieldLine(record, typeString);
+  for (const auto& [typeString, record] : typeStringsOf(schema)) text += fieldLine(record, typeString);
   return text;
 }
 
