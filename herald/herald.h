@@ -27,6 +27,7 @@
 #include <herald/inspect/Catalogue.h>
 #include <herald/inspect/Encoding.h>
 #include <herald/inspect/FieldList.h>
+#include <herald/inspect/FieldSource.h>
 #include <herald/inspect/Inspectable.h>
 #include <herald/inspect/Json.h>
 #include <herald/inspect/Requests.h>

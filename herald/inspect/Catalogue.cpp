@@ -17,26 +17,6 @@ earlier field. A field marked "conditional" travels only under a condition on
 earlier fields.
 )";
 
-constexpr std::string_view nameOf(WireType type) {
-  switch (type) {
-    case WireType::BOOL:
-      return "bool";
-    case WireType::BYTE:
-      return "byte";
-    case WireType::SHORT:
-      return "short";
-    case WireType::INT:
-      return "int";
-    case WireType::INT64:
-      return "int64";
-    case WireType::STRING:
-      return "string";
-    case WireType::NONE:
-      break;
-  }
-  return "";
-}
-
 std::string fieldLine(std::string_view name, std::string_view type) {
   constexpr std::size_t TYPE_COLUMN = 36;
   std::string line = "  " + std::string(name);

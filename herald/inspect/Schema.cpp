@@ -109,6 +109,26 @@ std::vector<MessageSchema> readTable(std::span<const Row> rows, Schema::Records&
 
 }  // namespace
 
+std::string_view nameOf(WireType type) {
+  switch (type) {
+    case WireType::BOOL:
+      return "bool";
+    case WireType::BYTE:
+      return "byte";
+    case WireType::SHORT:
+      return "short";
+    case WireType::INT:
+      return "int";
+    case WireType::INT64:
+      return "int64";
+    case WireType::STRING:
+      return "string";
+    case WireType::NONE:
+      break;
+  }
+  return "";
+}
+
 Schema::Schema()
     : messages_(readTable(clientMessageTable(), bodies_, records_)),
       requests_(readTable(serverMessageTable(), bodies_, records_)) {}

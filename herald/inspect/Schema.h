@@ -17,6 +17,9 @@ namespace Tessel {
 
 struct RecordSchema;
 
+/// "bool", "byte", "short", "int", "int64" or "string"; empty for NONE.
+HERALD_API std::string_view nameOf(WireType type);
+
 /// When a field travels: an earlier number of the same record, seen through a mask, lies in a range.
 struct FieldCondition {
   bool holdsFor(std::int64_t number) const { return (number & mask) >= first && (number & mask) <= last; }

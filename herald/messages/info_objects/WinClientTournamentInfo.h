@@ -63,10 +63,10 @@ class HERALD_API WinClientTournamentInfo : public ReadableRecord<WinClientTourna
  private:
   // The money as it travels.
   struct TravelledMoney {
-    MoneyAmount buyIn{Money()};
-    MoneyAmount fee{Money()};
-    MoneyAmount prizePool{Money()};
-    MoneyAmount startingChips{Money()};
+    MoneyAmount buyIn;
+    MoneyAmount fee;
+    MoneyAmount prizePool;
+    MoneyAmount startingChips;
   };
 
   bool takeMoney();

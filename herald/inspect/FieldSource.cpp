@@ -1,0 +1,7 @@
+#include <herald/inspect/FieldSource.h>
+
+namespace Tessel {
+
+FieldSource::~FieldSource() = default;
+
+}  // namespace Tessel
