@@ -101,6 +101,40 @@ TEST(InspectTest, EveryTextBecomesValidJson) {
   EXPECT_EQ(toJsonString("\xFF\xC0\x80z\xE2\x82"), "\"\uFFFD\uFFFD\uFFFDz\uFFFD\uFFFD\"");
 }
 
+TEST(InspectTest, EscapesWhatATerminalWouldObey) {
+  const struct {
+    int first;
+    int last;
+  } hidden[] = {{0x01, 0x1F}, {0x7F, 0x9F}, {0x061C, 0x061C}, {0x200E, 0x200F}, {0x202A, 0x202E}, {0x2066, 0x2069}};
+  const auto isAsItIs = [](int character) {
+    const std::string utf8 = UTFEncoder::toUTF8(std::wstring(1, static_cast<wchar_t>(character)));
+    const std::string json = toJsonString("a" + utf8 + "b");
+    EXPECT_EQ(nlohmann::json::parse(json).get<std::string>(), "a" + utf8 + "b");
+    return json == "\"a" + utf8 + "b\"";
+  };
+  for (const auto& [first, last] : hidden) {
+    for (int character = first; character <= last; ++character) EXPECT_FALSE(isAsItIs(character)) << character;
+    EXPECT_TRUE(first == 0x01 || isAsItIs(first - 1)) << first;
+    EXPECT_TRUE(isAsItIs(last + 1)) << last;
+  }
+  EXPECT_EQ(toJsonString("\u0085\u200E\u2069\x7F"), R"("\u0085\u200e\u2069\u007f")");
+}
+
+// Texts are looked at eight characters at a time, and short ones copied on the way.
+TEST(InspectTest, FindsWhatToEscapeAnywhere) {
+  for (std::size_t size = 1; size < 140; ++size) {
+    for (std::size_t at = 0; at < size; ++at) {
+      for (const std::string_view character : {"\x1F", "\"", "\\", "\x7F", "\u00E9"}) {
+        std::string text(size, "aZ ~"[size % 4]);
+        text.replace(at, 1, character);
+        const auto json = nlohmann::json::parse(toJson(TsString(UTFEncoder::toWide(text))));
+        ASSERT_EQ(json.at("value").get<std::string>(), text) << size << ' ' << at;
+        ASSERT_EQ(toJsonString(text) == '"' + text + '"', character == "\u00E9") << size << ' ' << at;
+      }
+    }
+  }
+}
+
 TEST(InspectTest, MasksSecretsUnlessAsked) {
   const TournamentJoinRequest request(1, 2, L"opensesame");
   EXPECT_EQ(nlohmann::json::parse(toJson(request)).at("password"), "***");

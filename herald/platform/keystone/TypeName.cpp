@@ -1,7 +1,9 @@
 #include <herald/platform/keystone/TypeName.h>
 
+#include <array>
+#include <atomic>
+#include <cstdint>
 #include <mutex>
-#include <shared_mutex>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -34,18 +36,30 @@ std::string nameWithoutNamespace(const std::type_info& type) {
   return std::string(name);
 }
 
+// Finding a name is slow, and a program asks for few. Never destroyed: objects that outlive main may still ask.
+using Names = std::unordered_map<const std::type_info*, std::string>;
+
+const Names::value_type& remembered(const std::type_info& type) {
+  static std::mutex& lock = *new std::mutex;
+  static Names& names = *new Names;
+  const std::lock_guard guard(lock);
+  const auto name = names.find(&type);
+  return name != names.end() ? *name : *names.try_emplace(&type, nameWithoutNamespace(type)).first;
+}
+
 }  // namespace
 
 std::string_view classNameOf(const std::type_info& type) {
-  // Finding a name is slow, and a program asks for few. Never destroyed: objects that outlive main may still ask.
-  static std::shared_mutex& lock = *new std::shared_mutex;
-  static auto& names = *new std::unordered_map<const std::type_info*, std::string>;
-  {
-    const std::shared_lock guard(lock);
-    if (const auto name = names.find(&type); name != names.end()) return name->second;
+  // What was asked for last, by the address of the class.
+  static constinit std::array<std::atomic<const Names::value_type*>, 256> recent{};
+  constexpr std::size_t USUAL_SIZE = 16;
+  auto& slot = recent[reinterpret_cast<std::uintptr_t>(&type) / USUAL_SIZE % recent.size()];
+  const Names::value_type* name = slot.load(std::memory_order_acquire);
+  if (name == nullptr || name->first != &type) {
+    name = &remembered(type);
+    slot.store(name, std::memory_order_release);
   }
-  const std::lock_guard guard(lock);
-  return names.try_emplace(&type, nameWithoutNamespace(type)).first->second;
+  return name->second;
 }
 
 }  // namespace Tessel
