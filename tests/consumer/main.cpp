@@ -1,3 +1,5 @@
+#include <herald/HeraldUtils/CurrentServerTimeModel.h>
+#include <herald/HeraldUtils/UserAccountModel.h>
 #include <herald/messages/BettingEvents.h>
 #include <herald/messages/ClientMessageFactory.h>
 #include <herald/platform/keystone/ByteStream.h>
@@ -34,11 +36,30 @@ bool catchesAcrossTheBorder() {
   return false;
 }
 
+/// Uses the models of the process from a constructor that may run before the library's own, as in a static build.
+class UserBeforeMain {
+ public:
+  UserBeforeMain() {
+    UserAccountModel::getUserAccountModel().newPriorityList({Money(AMOUNT, UNIT)});
+    CurrentServerTimeModel::setCurrentServerTime(TsTime(AMOUNT));
+  }
+  static bool findsWhatItSet() {
+    return UserAccountModel::getUserAccountModel().getAccount(UNIT) == Money(AMOUNT, UNIT)
+           && CurrentServerTimeModel::getTime() >= TsTime(AMOUNT);
+  }
+
+ private:
+  static constexpr int UNIT = 1;
+};
+
+const UserBeforeMain USER_BEFORE_MAIN;
+
 }  // namespace
 
 int main() {
   if (!decodesAndCasts()) return std::puts("consumer: the message was not decoded as expected"), 1;
   if (!catchesAcrossTheBorder()) return std::puts("consumer: no exception came across the border"), 1;
+  if (!UserBeforeMain::findsWhatItSet()) return std::puts("consumer: what was set before main is lost"), 1;
   std::puts("consumer: ok");
   return 0;
 }
