@@ -369,7 +369,7 @@ TEST(InfoArray, IsReadWholeOrThrows) {
   EXPECT_THROW(infoArraySize(numbers.get(), 0), KeystoneException);
   EXPECT_THROW(infoArraySize<TesselInt>(nullptr, 1), KeystoneException);
   ByteStream noPlayers(toBytes("00000001 00000000"));
-  EXPECT_THROW(readInfoArray<NewRoundInfo>(noPlayers, 1), KeystoneException);
+  EXPECT_THROW(delete[] readInfoArray<NewRoundInfo>(noPlayers, 1), KeystoneException);
 }
 
 TEST(IndexedAccessors, RefuseWhatLiesOutside) {

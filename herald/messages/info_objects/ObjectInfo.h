@@ -13,7 +13,7 @@ namespace Tessel {
 /// Reads that many records into a new array; null for a count below 1. A record that answers false throws
 /// `KeystoneException` "Failed to read info object.".
 template <class T>
-std::unique_ptr<T[]> readOwnedInfoArray(ByteStream& in, char count) {
+[[nodiscard]] std::unique_ptr<T[]> readOwnedInfoArray(ByteStream& in, char count) {
   const auto size = static_cast<std::int8_t>(count);
   if (size < 1) return nullptr;
   auto records = std::make_unique<T[]>(static_cast<std::size_t>(size));
@@ -25,7 +25,7 @@ std::unique_ptr<T[]> readOwnedInfoArray(ByteStream& in, char count) {
 
 /// The same. The caller owns the array and frees it with `delete[]`.
 template <class T>
-T* readInfoArray(ByteStream& in, char count) {
+[[nodiscard]] T* readInfoArray(ByteStream& in, char count) {
   return readOwnedInfoArray<T>(in, count).release();
 }
 

@@ -19,9 +19,9 @@ class HERALD_API ResourceManager {
   bool getText(int category, const std::wstring& section, const std::wstring& key, std::wstring& out) const;
 
   /// A section, owned by the caller, or null when there is none. `variant` is 0; no section has another.
-  TextResource* getTextResource(int category, const std::wstring& section, int variant) const;
+  [[nodiscard]] TextResource* getTextResource(int category, const std::wstring& section, int variant) const;
   /// The same for `TEXT_CATEGORY` and variant 0.
-  std::unique_ptr<TextResource> getTextResource(const std::wstring& section) const;
+  [[nodiscard]] std::unique_ptr<TextResource> getTextResource(const std::wstring& section) const;
 
   /// Adds texts to a section, in place of those with the same keys. A section that is not there yet is made.
   void addTexts(const std::wstring& section, const TextResource::Texts& texts);
