@@ -128,7 +128,7 @@ void construct(std::index_sequence<AT...>) {
 }
 
 template <class T>
-concept HasOneObject = requires {
+concept HasOneObject = std::is_same_v<T, UserAccountModel> || std::is_same_v<T, Schema> || requires {
   T::getInstance();
 };
 
@@ -137,7 +137,7 @@ concept HasOneObject = requires {
 template <class T>
 constexpr bool IS_NOT_CONSTRUCTED =
     HasOneObject<
-        T> || std::disjunction_v<std::is_abstract<T>, std::is_default_constructible<Derived<T>>, std::is_same<T, UserAccountModel>, std::is_same<T, Inspectable>>;
+        T> || std::is_abstract_v<T> || std::is_default_constructible_v<Derived<T>> || std::is_same_v<T, Inspectable>;
 
 volatile bool withArguments = false;
 
