@@ -49,10 +49,12 @@ void writeNumber(WireType type, std::int64_t value, ByteStream& out) {
 
 class EncodingSink final : public FieldSink {
  public:
-  explicit EncodingSink(ByteStream& out) : out_(out) {}
+  EncodingSink(ByteStream& out, Secrets secrets) : out_(out), secrets_(secrets) {}
 
   void number(std::string_view, WireType type, std::int64_t value) override { writeNumber(type, value, out_); }
-  void text(std::string_view, std::string_view utf8, bool) override { UTFEncoder::encodeToTsUTF8(utf8, out_); }
+  void text(std::string_view, std::string_view utf8, bool secret) override {
+    UTFEncoder::encodeToTsUTF8(secret && secrets_ == Secrets::MASKED ? SECRET_MASK : utf8, out_);
+  }
 
   void beginList(std::string_view name, WireType countType, std::int64_t count) override {
     if (count > 0 && !fits(count, countType)) {
@@ -71,6 +73,7 @@ class EncodingSink final : public FieldSink {
 
  private:
   ByteStream& out_;
+  Secrets secrets_;
 };
 
 std::string inQuotes(std::string_view text) { return '"' + std::string(text) + '"'; }
@@ -275,9 +278,9 @@ class SourceEncoder {
 
 }  // namespace
 
-bool encode(Inspectable object, ByteStream& out) {
+bool encode(Inspectable object, ByteStream& out, Secrets secrets) {
   ByteStream bytes;
-  EncodingSink sink(bytes);
+  EncodingSink sink(bytes, secrets);
   try {
     object.describe(sink);
   } catch (const KeystoneException& failure) {
