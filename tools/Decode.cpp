@@ -1,161 +1,173 @@
 #include "Decode.h"
 
 #include <herald/inspect/Json.h>
-#include <herald/messages/ClientMessageFactory.h>
 #include <herald/messages/ClientMessageTable.h>
-#include <herald/messages/ServerMessageTable.h>
-#include <herald/platform/keystone/ByteStream.h>
-#include <herald/platform/keystone/StringUtils.h>
-#include <herald/platform/keystone/UTFEncoder.h>
 
+#include <algorithm>
 #include <charconv>
 #include <concepts>
 #include <iterator>
 
-#include "Capture.h"
 #include "Diagnostics.h"
+#include "Hex.h"
 #include "Output.h"
+#include "PrettyPrinter.h"
 
 namespace Tessel {
 
 namespace {
 
-// Empty for an id without a class.
-std::string_view classOf(const Packet& packet) {
-  if (packet.direction == Direction::TO_SERVER) {
-    const ServerMessageRow* row = findServerMessageRow(packet.id);
-    return row != nullptr ? row->name : "";
-  }
-  const ClientMessageRow* row = findClientMessageRow(packet.id);
-  return row != nullptr ? row->name : "";
-}
-
-std::string_view nameOf(DecodeOutcome outcome) {
-  switch (outcome) {
-    case DecodeOutcome::DECODED:
-      return "decoded";
-    case DecodeOutcome::READ_ANSWERED_FALSE:
-      return "readAnsweredFalse";
-    case DecodeOutcome::NO_MESSAGE:
-      return "noMessage";
-    case DecodeOutcome::UNKNOWN_ID:
-      return "unknownId";
-    case DecodeOutcome::READ_THREW:
-      return "readThrew";
-  }
-  return "";
-}
-
-std::string_view orDash(std::string_view text) { return text.empty() ? "-" : text; }
+// A packet as it is about to be written.
+struct Shown {
+  const std::string& file;
+  const DecodedPacket& decoded;
+  Secrets secrets;
+};
 
 void appendNumber(std::integral auto number, std::string& line) {
   char digits[24];
   line.append(digits, std::to_chars(digits, std::end(digits), number).ptr);
 }
 
-DecodedMessage decodeMessage(const Packet& packet) {
-  ByteStream body = ByteStream::view(packet.body);
-  return ClientMessageFactory::decode(packet.id, body);
+std::string_view orDash(std::string_view text) { return text.empty() ? "-" : text; }
+
+std::string timeOf(const Packet& packet) { return toIsoTime(packet.time, packet.precision); }
+
+// name=value pairs; a text stands in quotes.
+std::string fieldsOf(const Shown& shown) {
+  const std::optional<Inspectable> object = shown.decoded.object();
+  if (!object) return "-";
+  const FieldList fields(*object, shown.secrets);
+  std::string line;
+  for (std::size_t i = 0; i < fields.size(); ++i) {
+    const FieldKind kind = fields[i].kind;
+    if (kind != FieldKind::NUMBER && kind != FieldKind::TEXT) continue;
+    if (!line.empty()) line += ' ';
+    line.append(fields.pathOf(i)).append("=");
+    if (kind == FieldKind::TEXT)
+      appendJsonString(fields[i].value, line);
+    else
+      line += fields[i].value;
+  }
+  return line.empty() ? "-" : line;
 }
 
-// What the library's own reports leave out: where the read ended, and why.
-void complainOfFailedRead(const Packet& packet, const DecodedMessage& decoded, Diagnostics& diagnostics) {
-  const bool threw = decoded.outcome == DecodeOutcome::READ_THREW;
-  if (!threw && decoded.outcome != DecodeOutcome::READ_ANSWERED_FALSE) return;
-  diagnostics.complain("packet " + std::to_string(packet.number) + ": the read failed at byte "
-                       + std::to_string(decoded.bytesRead) + " of " + std::to_string(packet.body.size())
-                       + (threw ? ": " + UTFEncoder::toUTF8(StringUtils::escapeLine(decoded.reason)) : ""));
+struct Column {
+  std::string_view name;
+  void (*append)(const Shown& shown, std::string& line);
+};
+
+constexpr Column COLUMNS[] = {
+    {"file", [](const Shown& shown, std::string& line) { line += escaped(shown.file); }},
+    {"packet", [](const Shown& shown, std::string& line) { appendNumber(shown.decoded.packet().number, line); }},
+    {"time", [](const Shown& shown, std::string& line) { line += timeOf(shown.decoded.packet()); }},
+    {"direction", [](const Shown& shown, std::string& line) { line += nameOf(shown.decoded.packet().direction); }},
+    {"id", [](const Shown& shown, std::string& line) { appendNumber(shown.decoded.packet().id, line); }},
+    {"class", [](const Shown& shown, std::string& line) { line += orDash(shown.decoded.className()); }},
+    {"outcome", [](const Shown& shown, std::string& line) { line += nameOf(shown.decoded.outcome()); }},
+    {"read", [](const Shown& shown, std::string& line) { appendNumber(shown.decoded.bytesRead(), line); }},
+    {"bytes", [](const Shown& shown, std::string& line) { appendNumber(shown.decoded.packet().body.size(), line); }},
+    {"text", [](const Shown& shown, std::string& line) { line += shown.decoded.debugText(shown.secrets); }},
+    {"fields", [](const Shown& shown, std::string& line) { line += fieldsOf(shown); }},
+};
+
+std::vector<const Column*> columnsNamed(const std::vector<std::string>& names) {
+  std::vector<const Column*> columns;
+  for (const std::string& name : names) {
+    const auto* column = std::ranges::find(COLUMNS, name, &Column::name);
+    if (column == std::end(COLUMNS))
+      throw UsageError("--columns: there is no column \"" + name + "\", only " + columnNames());
+    columns.push_back(column);
+  }
+  return columns;
 }
 
-void appendMessageColumns(const Packet& packet, Diagnostics& diagnostics, std::string& line) {
-  const DecodedMessage decoded = decodeMessage(packet);
-  complainOfFailedRead(packet, decoded, diagnostics);
-  appendNumber(decoded.bytesRead, line);
-  line += '\t';
-  appendNumber(packet.body.size(), line);
-  line += '\t';
-  if (decoded.message == nullptr)
-    line += '-';
-  else
-    line += UTFEncoder::toUTF8(StringUtils::escapeLine(decoded.message->toDebugString()));
-}
-
-void appendLine(const Packet& packet, Diagnostics& diagnostics, std::string& line) {
-  appendNumber(packet.number, line);
-  line += '\t';
-  appendNumber(packet.id, line);
-  line += '\t';
-  line += orDash(classOf(packet));
-  line += '\t';
-  if (packet.direction == Direction::FROM_SERVER)
-    appendMessageColumns(packet, diagnostics, line);
-  else
-    line += "-\t-\t-";
+void appendLine(const Shown& shown, const std::vector<const Column*>& columns, std::string& line) {
+  for (const Column* column : columns) {
+    if (column != columns.front()) line += '\t';
+    column->append(shown, line);
+  }
   line += '\n';
 }
 
-void appendMessageMembers(const Packet& packet, std::string& line) {
-  const DecodedMessage decoded = decodeMessage(packet);
-  line += ",\"outcome\":";
-  appendJsonString(nameOf(decoded.outcome), line);
-  line += ",\"bytesRead\":";
-  appendNumber(decoded.bytesRead, line);
-  line += ",\"bytes\":";
-  appendNumber(packet.body.size(), line);
-  if (!decoded.reason.empty()) {
-    line += ",\"reason\":";
-    appendJsonString(UTFEncoder::toUTF8(decoded.reason), line);
+// The bytes of what its fields alone do not tell, so that it can be encoded again.
+void appendUntold(const Shown& shown, std::string& line) {
+  if (shown.decoded.isToldByItsFields()) return;
+  const bool mayHoldSecret = shown.decoded.packet().direction == Direction::TO_SERVER;
+  line += ",\"hex\":";
+  appendJsonString(
+      mayHoldSecret && shown.secrets == Secrets::MASKED ? std::string(SECRET_MASK) : toHex(shown.decoded.packet().body),
+      line);
+}
+
+void appendJsonLine(const Shown& shown, bool namesFile, std::string& line) {
+  const DecodedPacket& decoded = shown.decoded;
+  const Packet& packet = decoded.packet();
+  line += '{';
+  if (namesFile) {
+    line += "\"file\":";
+    appendJsonString(shown.file, line);
+    line += ',';
   }
-  line += ",\"message\":";
-  if (decoded.message != nullptr)
-    appendJson(*decoded.message, line);
-  else
-    line += "null";
-}
-
-void appendRequestMembers(const Packet& packet, std::string& line) {
-  line += ",\"bytes\":";
-  appendNumber(packet.body.size(), line);
-  line += ",\"message\":null";
-}
-
-void appendJsonLine(const Packet& packet, std::string& line) {
-  const bool isMessage = packet.direction == Direction::FROM_SERVER;
-  line += "{\"packet\":";
+  line += "\"packet\":";
   appendNumber(packet.number, line);
-  line += isMessage ? R"(,"direction":"fromServer","id":)" : R"(,"direction":"toServer","id":)";
+  line.append(",\"time\":\"").append(timeOf(packet));
+  line.append("\",\"direction\":\"").append(nameOf(packet.direction)).append("\",\"id\":");
   appendNumber(packet.id, line);
   line += ",\"class\":";
-  if (const std::string_view name = classOf(packet); !name.empty())
+  if (const std::string_view name = decoded.className(); !name.empty())
     appendJsonString(name, line);
   else
     line += "null";
-  if (isMessage)
-    appendMessageMembers(packet, line);
+  line.append(",\"outcome\":\"").append(nameOf(decoded.outcome())).append("\",\"bytesRead\":");
+  appendNumber(decoded.bytesRead(), line);
+  line += ",\"bytes\":";
+  appendNumber(packet.body.size(), line);
+  if (!decoded.reason().empty()) {
+    line += ",\"reason\":";
+    appendJsonString(decoded.reason(), line);
+  }
+  line += ",\"message\":";
+  if (const auto object = decoded.object())
+    appendJson(*object, line, {.secrets = shown.secrets});
   else
-    appendRequestMembers(packet, line);
+    line += "null";
+  appendUntold(shown, line);
   line += "}\n";
 }
 
 // Writes packets, and the library's reports about them.
 class PacketPrinter {
  public:
-  PacketPrinter(OutputFormat format, Output& output, Diagnostics& diagnostics)
-      : format_(format), output_(output), diagnostics_(diagnostics),
-        sink_(std::make_shared<PacketReportSink>(diagnostics)), installed_(sink_) {}
+  PacketPrinter(const DecodeOptions& options, bool namesFile, Output& output, Diagnostics& diagnostics)
+      : options_(options), columns_(columnsNamed(options.columns)), namesFile_(namesFile), colors_(options.color),
+        output_(output), diagnostics_(diagnostics), sink_(std::make_shared<PacketReportSink>(diagnostics)),
+        installed_(sink_) {}
 
-  void print(const Packet& packet) {
+  void print(const std::string& file, const Packet& packet) {
+    if (!options_.filter.wants(packet)) return;
     sink_->setPacket(packet.number);
+    const DecodedPacket decoded(packet);
+    if (!options_.filter.wants(decoded)) return;
     line_.clear();
-    if (format_ == OutputFormat::JSON)
-      appendJsonLine(packet, line_);
-    else
-      appendLine(packet, diagnostics_, line_);
+    append({file, decoded, options_.secrets});
     output_.write(line_);
   }
 
  private:
-  OutputFormat format_;
+  void append(const Shown& shown) {
+    if (options_.format == OutputFormat::JSON) return appendJsonLine(shown, namesFile_, line_);
+    shown.decoded.complain(diagnostics_);
+    if (options_.format == OutputFormat::PRETTY)
+      appendPretty(shown.decoded, namesFile_ ? shown.file : "", options_.secrets, colors_, line_);
+    else
+      appendLine(shown, columns_, line_);
+  }
+
+  const DecodeOptions& options_;
+  std::vector<const Column*> columns_;
+  bool namesFile_;
+  Colors colors_;
   Output& output_;
   Diagnostics& diagnostics_;
   std::string line_;
@@ -165,14 +177,30 @@ class PacketPrinter {
 
 }  // namespace
 
-bool decodeCapture(const std::string& file, OutputFormat format, Output& output, Diagnostics& diagnostics) {
-  PacketPrinter printer(format, output, diagnostics);
-  return visitPackets(file, diagnostics, [&](const Packet& packet) { printer.print(packet); });
+std::string columnNames() {
+  std::string names;
+  for (const Column& column : COLUMNS) names.append(names.empty() ? "" : ",").append(column.name);
+  return names;
 }
 
-void decodeBody(int id, std::span<const std::uint8_t> body, OutputFormat format, Output& output,
+bool decodeCaptures(const CaptureCall& call, const DecodeOptions& options, Output& output, Diagnostics& diagnostics) {
+  PacketPrinter printer(options, call.files.size() > 1, output, diagnostics);
+  return visitPackets(call, output, diagnostics,
+                      [&](const std::string& file, const Packet& packet) { printer.print(file, packet); });
+}
+
+void decodeBody(int id, std::span<const std::uint8_t> body, const DecodeOptions& options, Output& output,
                 Diagnostics& diagnostics) {
-  PacketPrinter(format, output, diagnostics).print({1, Direction::FROM_SERVER, id, body});
+  Packet packet{.number = 1,
+                .time = 0,
+                .precision = TimePrecision::MICROSECONDS,
+                .direction = Direction::FROM_SERVER,
+                .id = id,
+                .body = body};
+  if (findClientMessageRow(id) == nullptr) packet.direction = Direction::TO_SERVER;
+  packet.direction = options.filter.direction.value_or(packet.direction);
+  if (classOf(packet).empty() && !options.filter.direction) packet.direction = Direction::FROM_SERVER;
+  PacketPrinter(options, false, output, diagnostics).print("", packet);
 }
 
 }  // namespace Tessel

@@ -1,6 +1,8 @@
 #pragma once
 #include <cstdint>
+#include <span>
 #include <stdexcept>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -15,5 +17,8 @@ class UsageError : public std::runtime_error {
 /// The bytes of pairs of hexadecimal digits, with or without blanks between the pairs. Throws `UsageError` for anything
 /// else.
 std::vector<std::uint8_t> parseHex(std::string_view text);
+
+/// Pairs of hexadecimal digits in lower case, without blanks.
+std::string toHex(std::span<const std::uint8_t> bytes);
 
 }  // namespace Tessel

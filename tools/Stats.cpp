@@ -1,5 +1,6 @@
 #include "Stats.h"
 
+#include <herald/inspect/Requests.h>
 #include <herald/messages/ClientMessageFactory.h>
 #include <herald/messages/ClientMessageTable.h>
 #include <herald/messages/ServerMessageTable.h>
@@ -10,7 +11,6 @@
 #include <functional>
 #include <iomanip>
 #include <map>
-#include <optional>
 #include <sstream>
 #include <utility>
 #include <vector>
@@ -32,18 +32,19 @@ Reading the file and counting are not in it. MB are millions of bytes of bodies.
 struct Counts {
   std::uint64_t count = 0;
   std::uint64_t bytes = 0;
-  // Nothing for requests, which are not decoded.
-  std::optional<std::uint64_t> failures{};
+  std::uint64_t failures = 0;
 
   void add(const Counts& other) {
     count += other.count;
     bytes += other.bytes;
-    if (other.failures) failures = failures.value_or(0) + *other.failures;
+    failures += other.failures;
   }
 };
 
-bool isFailure(DecodeOutcome outcome) {
-  return outcome != DecodeOutcome::DECODED && outcome != DecodeOutcome::NO_MESSAGE;
+Counts countOf(const Packet& request) {
+  ByteStream body = ByteStream::view(request.body);
+  const bool hasFailed = isFailure(decodeRequest(request.id, body).outcome) || body.unreadCount() > 0;
+  return {1, request.body.size(), hasFailed ? 1u : 0u};
 }
 
 // Decodes messages in batches, so that the clock is read once per batch, and keeps no more than a batch.
@@ -129,7 +130,7 @@ std::string withDecimals(double value, int decimals) {
 Row rowOf(const std::string& name, const Counts& counts, std::uint64_t allBytes) {
   const double share = allBytes == 0 ? 0 : 100.0 * static_cast<double>(counts.bytes) / static_cast<double>(allBytes);
   return {name, std::to_string(counts.count), std::to_string(counts.bytes), withDecimals(share, 1) + "%",
-          counts.failures ? std::to_string(*counts.failures) : "-"};
+          std::to_string(counts.failures)};
 }
 
 std::string align(const std::vector<Row>& rows) {
@@ -167,15 +168,16 @@ std::string throughputOf(const TimedDecoder& decoder) {
 
 }  // namespace
 
-bool printStats(const std::string& file, Output& output, Diagnostics& diagnostics) {
+bool printStats(const CaptureCall& call, const PacketFilter& filter, Output& output, Diagnostics& diagnostics) {
   const WithReportSink quiet(std::make_shared<SilentReportSink>());
   TimedDecoder decoder;
   std::map<int, Counts> requests;
-  const bool isSound = visitPackets(file, diagnostics, [&](const Packet& packet) {
+  const bool isSound = visitPackets(call, output, diagnostics, [&](const std::string&, const Packet& packet) {
+    if (!filter.wants(packet) || (filter.where && !filter.wants(DecodedPacket(packet)))) return;
     if (packet.direction == Direction::FROM_SERVER)
       decoder.add(packet.id, packet.body);
     else
-      requests[packet.id].add({1, packet.body.size()});
+      requests[packet.id].add(countOf(packet));
   });
   decoder.decodeBatch();
 

@@ -1,13 +1,14 @@
 #pragma once
-#include <string>
+#include "Capture.h"
+#include "PacketFilter.h"
 
 namespace Tessel {
 
 class Diagnostics;
 class Output;
 
-/// Writes what a capture holds, class by class, and how fast its messages decode; answers whether the capture was
+/// Writes what captures hold, class by class, and how fast their messages decode; answers whether the captures were
 /// sound.
-bool printStats(const std::string& file, Output& output, Diagnostics& diagnostics);
+bool printStats(const CaptureCall& call, const PacketFilter& filter, Output& output, Diagnostics& diagnostics);
 
 }  // namespace Tessel

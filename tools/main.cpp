@@ -16,14 +16,14 @@ int runCommand(int argc, char** argv, Output& output, Diagnostics& diagnostics) 
   } catch (const CLI::ParseError& failure) {
     return commandLine.explain(failure, output);
   }
-  return commandLine.run(output, diagnostics) ? 0 : 1;
+  return commandLine.run(output, diagnostics);
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
-  // A pipe whose reader has gone is an error of the output like others.
-  std::signal(SIGPIPE, SIG_IGN);
+  // A pipe whose reader has gone ends it quietly, as it does other filters, also where the caller ignores the signal.
+  std::signal(SIGPIPE, SIG_DFL);
   Output output;
   Diagnostics diagnostics;
   try {
