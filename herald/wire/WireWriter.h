@@ -68,7 +68,7 @@ class WireWriter : public LayoutVisitor<WireWriter> {
         reportUnwritable(value);
       } else {
         ByteStream nowhere;
-        value.write(nowhere);  // which tells its own reporter
+        static_cast<void>(value.write(nowhere));  // which tells its own reporter
       }
       succeeded_ = false;
       return;
