@@ -33,7 +33,7 @@ std::string_view orDash(std::string_view text) { return text.empty() ? "-" : tex
 
 std::string timeOf(const Packet& packet) { return toIsoTime(packet.time, packet.precision); }
 
-// name=value pairs; a text stands in quotes.
+// name=value pairs; a text stands in quotes, what a number means in parentheses.
 std::string fieldsOf(const Shown& shown) {
   const std::optional<Inspectable> object = shown.decoded.object();
   if (!object) return "-";
@@ -48,6 +48,7 @@ std::string fieldsOf(const Shown& shown) {
       appendJsonString(fields[i].value, line);
     else
       line += fields[i].value;
+    if (!fields[i].valueName.empty()) line.append("(").append(fields[i].valueName).append(")");
   }
   return line.empty() ? "-" : line;
 }

@@ -55,6 +55,7 @@ class PrettyPrinter {
     switch (field.kind) {
       case FieldKind::NUMBER:
         out_.append(": ").append(field.value);
+        if (!field.valueName.empty()) out_.append(" (").append(field.valueName).append(")");
         break;
       case FieldKind::TEXT:
         out_.append(": ");

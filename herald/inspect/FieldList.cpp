@@ -18,6 +18,11 @@ class ListingSink final : public FieldSink {
       add(name, FieldKind::NUMBER, type, std::to_string(value));
   }
 
+  void namedNumber(std::string_view name, WireType type, std::int64_t value, std::string_view valueName) override {
+    number(name, type, value);
+    fields_.back().valueName = valueName;
+  }
+
   void text(std::string_view name, std::string_view utf8, bool secret) override {
     const bool masked = secret && secrets_ == Secrets::MASKED;
     add(name, FieldKind::TEXT, WireType::STRING, std::string(masked ? SECRET_MASK : utf8));
@@ -47,7 +52,8 @@ class ListingSink final : public FieldSink {
     OpenField& parent = open_.back();
     std::string ownName = name.empty() ? '[' + std::to_string(parent.count) + ']' : std::string(name);
     ++parent.count;
-    fields_.push_back({std::move(ownName), kind, type, std::move(value), parent.index});
+    fields_.push_back(
+        {.name = std::move(ownName), .kind = kind, .type = type, .value = std::move(value), .parent = parent.index});
   }
 
   void open(std::string_view name, FieldKind kind, WireType type, std::string value) {

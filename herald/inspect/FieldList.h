@@ -22,6 +22,8 @@ struct Field {
   /// The number in decimal ("true" or "false" for a flag), the text in UTF-8, the class of a record, the count of a
   /// list.
   std::string value;
+  /// What the number means, where its values have names, such as "SAT_DOWN"; empty otherwise.
+  std::string valueName{};
   /// The index of the record or list that holds it; NO_PARENT at the outermost level.
   std::size_t parent;
 };

@@ -20,7 +20,9 @@ class SchemaSink final : public FieldSink {
   bool wantsLayout() const override { return true; }
 
   void number(std::string_view name, WireType type, std::int64_t value) override {
-    add({.name = std::string(name), .kind = FieldKind::NUMBER, .type = type, .startNumber = value});
+    add({.name = std::string(name), .kind = FieldKind::NUMBER, .type = type, .startNumber = value})
+        .valueNames.swap(valueNames_);
+    valueNames_.clear();
   }
 
   void text(std::string_view name, std::string_view utf8, bool secret) override {
@@ -53,6 +55,10 @@ class SchemaSink final : public FieldSink {
     open_.back().condition = FieldCondition{field, condition.mask, condition.first, condition.last};
   }
   void beginConditional(bool) override {}
+  void valuesNamed(std::int64_t first, std::span<const std::string_view> names) override {
+    for (std::size_t i = 0; i < names.size(); ++i)
+      if (!names[i].empty()) valueNames_.emplace(first + static_cast<std::int64_t>(i), names[i]);
+  }
   void endConditional() override { open_.back().condition.reset(); }
   void countedBy(std::string_view field) override { open_.back().countField = indexOf(field); }
   void taggedBy(std::string_view field) override { open_.back().tagField = indexOf(field); }
@@ -88,6 +94,8 @@ class SchemaSink final : public FieldSink {
 
   Schema::Records& records_;
   std::vector<Scope> open_;
+  // Of the next number.
+  std::map<std::int64_t, std::string> valueNames_;
 };
 
 template <class Row>

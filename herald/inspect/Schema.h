@@ -42,6 +42,8 @@ struct FieldSchema {
   /// The value of a new message: a flag's is 0 or 1. Those of a list are no items.
   std::int64_t startNumber = 0;
   std::string startText{};
+  /// What values of a NUMBER mean, where they have names.
+  std::map<std::int64_t, std::string> valueNames{};
   std::optional<FieldCondition> condition{};
   /// Of a RECORD; lives as long as its schema.
   const RecordSchema* record = nullptr;

@@ -1,4 +1,5 @@
 #pragma once
+#include <herald/wire/EnumeratorNames.h>
 #include <herald/wire/FieldSink.h>
 #include <herald/wire/LayoutVisitor.h>
 
@@ -9,6 +10,13 @@ class FieldDescriber : public LayoutVisitor<FieldDescriber> {
  public:
   /// `outerName` is the name of the field that holds a transparent layout.
   explicit FieldDescriber(FieldSink& sink, std::string_view outerName = "value") : sink_(sink), outerName_(outerName) {}
+
+  template <class Enumeration, WireNumber T>
+  void named(std::string_view name, const T& number) {
+    using Names = EnumeratorNames<Enumeration>;
+    if (sink_.wantsLayout()) sink_.valuesNamed(Names::FIRST, Names::all());
+    sink_.namedNumber(nameOf(name), WIRE_TYPE_OF<T>, number, Names::of(number));
+  }
 
  private:
   friend LayoutVisitor;

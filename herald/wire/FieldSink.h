@@ -2,6 +2,7 @@
 #include <herald/platform/keystone/Export.h>
 
 #include <cstdint>
+#include <span>
 #include <string_view>
 
 namespace Tessel {
@@ -36,6 +37,8 @@ class HERALD_API FieldSink {
 
   /// A bool comes as 0 or 1.
   virtual void number(std::string_view name, WireType type, std::int64_t value) = 0;
+  /// The same, for a number whose values have names; empty for a value without one. A sink may leave the name out.
+  virtual void namedNumber(std::string_view name, WireType type, std::int64_t value, std::string_view valueName);
   /// A secret text, such as a password, is not for logs and listings.
   virtual void text(std::string_view name, std::string_view utf8, bool secret) = 0;
 
@@ -55,6 +58,8 @@ class HERALD_API FieldSink {
   /// with their starting values, and the rules below, each before what it is about.
   virtual bool wantsLayout() const { return false; }
 
+  /// The values of the next number have these names, `first` and those behind it; empty for a value without one.
+  virtual void valuesNamed(std::int64_t, std::span<const std::string_view>) {}
   /// The next conditional part travels under this condition.
   virtual void underCondition(const Condition&) {}
   /// The next list has as many items as the earlier field of this name says, or, if that is a list, has.

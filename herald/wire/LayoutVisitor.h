@@ -17,6 +17,10 @@ class LayoutVisitor {
   void operator()(std::string_view name, const T& field) {
     self().field(name, field);
   }
+  template <class Enumeration, WireNumber T>
+  void named(std::string_view name, const T& number) {
+    self().field(name, number);
+  }
   template <class T>
   void ignoring(std::string_view name, const T& record) {
     self().field(name, record);

@@ -116,6 +116,10 @@ class StraightReader {
   HERALD_IN_LINE void operator()(const char*, T& field) {
     read(field);
   }
+  template <class Enumeration, WireNumber T>
+  HERALD_IN_LINE void named(const char* name, T& number) {
+    (*this)(name, number);
+  }
   template <class T>
   HERALD_IN_LINE void ignoring(const char*, T& record) {
     read(record);

@@ -34,6 +34,12 @@ class WireReader {
     if (succeeded_) read(field);
   }
 
+  /// A number whose values have the names of an enumeration.
+  template <class Enumeration, WireNumber T>
+  void named(const char* name, T& number) {
+    (*this)(name, number);
+  }
+
   /// A record whose own failure does not count.
   template <class T>
   void ignoring(const char*, T& record) {

@@ -57,6 +57,24 @@ TEST(CatalogueTest, HoldsEveryMessageAndEveryElementOfATaggedList) {
   EXPECT_EQ(elements.size(), 7u);
 }
 
+// Names come from the enumerations themselves.
+TEST(SchemaTest, NamesTheValuesOfEnumerations) {
+  const auto namesIn = [](std::string_view record, std::string_view field) {
+    const auto& fields = Schema::ofProtocol().find(record)->fields;
+    std::string names;
+    for (const auto& [value, name] : std::ranges::find(fields, field, &FieldSchema::name)->valueNames)
+      names += std::to_string(value) + name + ' ';
+    return names;
+  };
+  EXPECT_EQ(namesIn("WinPotInfo", "potType"), "-1UNKNOWN 0MAIN_POT 1SIDE_POT 2HIGH_POT 3LOW_POT 4UNCALLED_BET ");
+  EXPECT_EQ(namesIn("SitDownReplyInfo", "status"),
+            "0SAT_DOWN 6FIRST_REFUSED_DUE_TO_MONEY 8LAST_REFUSED_DUE_TO_MONEY 12REFUSED_DUE_TO_SYSTEM ");
+  EXPECT_TRUE(namesIn("CardInfo", "number").ends_with("12QUEEN 13KING "));
+  EXPECT_EQ(namesIn("CardInfo", "seat"), "");
+  const FieldList card(CardInfo(1, 2, Card(Card::Color::SPADES, Card::Type::ACE)));
+  EXPECT_EQ(card[2].valueName + ' ' + card[3].valueName, "SPADES ACE");
+}
+
 // JSON would lose one of two fields of the same name.
 TEST(CatalogueTest, NoFieldNameStandsTwiceInARecord) {
   std::string section;

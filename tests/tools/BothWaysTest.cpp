@@ -207,7 +207,7 @@ TEST(BothWaysTest, ChoosesPacketsColumnsAndFiles) {
     EXPECT_EQ(std::regex_replace(outcome.out, std::regex("\n"), " "), packets) << options;
   }
   EXPECT_EQ(run("decode --fields --packets 3 FILE", file).out.substr(0, 53),
-            "3\t17\tClientWin\t37\t37\tpots[0].potType=0 pots[0].credit");
+            "3\t17\tClientWin\t37\t37\tpots[0].potType=0(MAIN_POT) pots");
   EXPECT_EQ(run("decode --columns direction,outcome,class FILE --packets 4", file).out, "fromServer\tunknownId\t-\n");
   const Outcome both = run("decode --packets 1 FILE - <FILE", file);
   EXPECT_EQ(std::ranges::count(both.out, '\n'), 2);

@@ -33,12 +33,30 @@ class HERALD_API CardInfo : public ReadableRecord<CardInfo> {
   static void wire(Self& self, Fields& fields) {
     fields("playerId", self.playerId_);
     fields("seat", self.seat_);
-    fields("color", self.color_);
-    fields("number", self.number_);
+    fields.template named<WireSuit>("color", self.color_);
+    fields.template named<WireRank>("number", self.number_);
     fields.onRead(self, &CardInfo::checkCard);
   }
 
  private:
+  enum class WireSuit : int { HIDDEN = -1, DIAMONDS, HEARTS, CLUBS, SPADES };
+  enum class WireRank : int {
+    HIDDEN = -1,
+    ACE = 1,
+    TWO,
+    THREE,
+    FOUR,
+    FIVE,
+    SIX,
+    SEVEN,
+    EIGHT,
+    NINE,
+    TEN,
+    JACK,
+    QUEEN,
+    KING
+  };
+
   // On the wire; no number is 0.
   static constexpr int LOWEST_COLOR = -1;
   static constexpr int HIGHEST_COLOR = 3;

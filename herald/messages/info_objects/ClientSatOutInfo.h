@@ -23,7 +23,7 @@ class HERALD_API ClientSatOutInfo : public ReadableRecord<ClientSatOutInfo> {
   template <class Self, class Fields>
   static void wire(Self& self, Fields& fields) {
     fields("playerId", self.playerId_);
-    fields("status", self.status_);
+    fields.template named<ClientSatOutStatus>("status", self.status_);
   }
 
  private:

@@ -32,7 +32,7 @@ class HERALD_API HandValueInfo : public ReadableRecord<HandValueInfo> {
   template <class Self, class Fields>
   static void wire(Self& self, Fields& fields) {
     fields("playerSeat", self.playerSeat_);
-    fields("handType", self.handType_);
+    fields.template named<AllowedHandValue>("handType", self.handType_);
     fields("handValue", self.handValue_);
     fields.template countedOrNone<std::int8_t>("specifiedCards", self.specifiedCards_);
   }

@@ -30,7 +30,7 @@ class HERALD_API JoinRequestStatus : public ReadableWritableRecord<JoinRequestSt
 
   template <class Self, class Fields>
   static void wire(Self& self, Fields& fields) {
-    fields("status", self.status_);
+    fields.template named<Status>("status", self.status_);
   }
 
  private:

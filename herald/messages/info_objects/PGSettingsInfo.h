@@ -30,8 +30,8 @@ class HERALD_API PGSettingsInfo : public ReadableRecord<PGSettingsInfo> {
   template <class Self, class Fields>
   static void wire(Self& self, Fields& fields) {
     fields("settingId", self.settingId_);
-    fields("gameType", self.gameType_);
-    fields("limitType", self.limitType_);
+    fields.template named<GameTypes::AllowedGameType>("gameType", self.gameType_);
+    fields.template named<LimitTypes::AllowedLimitType>("limitType", self.limitType_);
     fields("description", self.description_);
     fields("monetaryUnitId", self.monetaryUnitId_);
     fields("lowerLimit", self.lowerLimit_);

@@ -42,8 +42,8 @@ class HERALD_API PokerGameInfo : public ReadableRecord<PokerGameInfo, GameInfo>,
   template <class Self, class Fields>
   static void wire(Self& self, Fields& fields) {
     GameInfo::wire(self, fields);
-    fields("gameType", self.gameType_);
-    fields("limitType", self.limitType_);
+    fields.template named<GameTypes::AllowedGameType>("gameType", self.gameType_);
+    fields.template named<LimitTypes::AllowedLimitType>("limitType", self.limitType_);
     fields("lowerLimit", self.lowerLimit_);
     fields("upperLimit", self.upperLimit_);
     fields("tableFlags", self.tableFlags_);

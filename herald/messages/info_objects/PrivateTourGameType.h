@@ -23,7 +23,7 @@ class HERALD_API PrivateTourGameType : public ReadableRecord<PrivateTourGameType
 
   template <class Self, class Fields>
   static void wire(Self& self, Fields& fields) {
-    fields("gameType", self.gameType_);
+    fields.template named<GameTypes::AllowedGameType>("gameType", self.gameType_);
     fields("limit", self.limit_);
     fields("seats", self.seats_);
   }

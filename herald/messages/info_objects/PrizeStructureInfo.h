@@ -23,7 +23,7 @@ class HERALD_API PrizeStructureInfo : public ReadableRecord<PrizeStructureInfo> 
   static void wire(Self& self, Fields& fields) {
     fields("numPlayersInPayout", self.numPlayersInPayout_);
     fields("prizePool", self.prizePool_);
-    fields("prizeStructureType", self.prizeStructureType_);
+    fields.template named<AllowedPrizeStructureType>("prizeStructureType", self.prizeStructureType_);
     fields("addedCash", self.addedCash_);
     fields("guaranteedCash", self.guaranteedCash_);
   }

@@ -24,7 +24,7 @@ class HERALD_API SitDownReplyInfo : public ReadableRecord<SitDownReplyInfo> {
 
   template <class Self, class Fields>
   static void wire(Self& self, Fields& fields) {
-    fields("status", self.status_);
+    fields.template named<SitDownStatus>("status", self.status_);
     fields.onlyIf(self.refusedDueToMoney(), "money", self.money_);
   }
 

@@ -25,7 +25,7 @@ class HERALD_API SpecificLobbyPlayerInfo : public ReadableRecord<SpecificLobbyPl
   static void wire(Self& self, Fields& fields) {
     fields("largestStack", self.largestStack_);
     fields("averageStack", self.averageStack_);
-    fields("statusInTour", self.statusInTour_);
+    fields.template named<StatusInTour>("statusInTour", self.statusInTour_);
     fields("currentPosition", self.currentPosition_);
     fields("ownChipStack", self.ownChipStack_);
     fields("userTableId", self.userTableId_);

@@ -96,7 +96,7 @@ class HERALD_API TableInformation : public ReadableRecord<TableInformation, Read
   template <class Self, class Fields>
   static void wire(Self& self, Fields& fields) {
     fields("tableName", self.tableName_);
-    fields("gameType", self.gameType_);
+    fields.template named<GameTypes::AllowedGameType>("gameType", self.gameType_);
     fields("monetaryUnitId", self.monetaryUnitId_);
     fields("money1", self.money_[0]);
     fields("flagA", self.flagA_);

@@ -84,13 +84,13 @@ class HERALD_API TourSummary : public ReadableRecord<TourSummary>, public LobbyN
   static void wire(Self& self, Fields& fields) {
     fields("tourId", self.tourId_);
     fields("attributes", self.attributes_);
-    fields("status", self.status_);
+    fields.template named<AllowedTournamentStatus>("status", self.status_);
     fields("serverPort", self.serverPort_);
     fields("nameShort", self.nameShort_);
     fields("nameLong", self.nameLong_);
     fields("description", self.description_);
-    fields("limitType", self.limitType_);
-    fields("gameType", self.gameType_);
+    fields.template named<LimitTypes::AllowedLimitType>("limitType", self.limitType_);
+    fields.template named<GameTypes::AllowedGameType>("gameType", self.gameType_);
     fields("numEntrants", self.numEntrants_);
     fields("minNumEntrants", self.minNumEntrants_);
     fields("maxNumEntrants", self.maxNumEntrants_);
@@ -107,7 +107,7 @@ class HERALD_API TourSummary : public ReadableRecord<TourSummary>, public LobbyN
     fields.onlyIf(hasBit("attributes", self.attributes_, TourSummaryAttributes::REBUYS), "rebuyInfo", self.rebuyInfo_);
     fields.onlyIf(hasBit("attributes", self.attributes_, TourSummaryAttributes::FLIGHT), "flightInfo",
                   self.flightInfo_);
-    fields("regStatus", self.regStatus_);
+    fields.template named<PlayerRegistrationStatus>("regStatus", self.regStatus_);
   }
 
  private:

@@ -35,14 +35,14 @@ class HERALD_API TourSummaryUpdate : public ReadableRecord<TourSummaryUpdate> {
   static void wire(Self& self, Fields& fields) {
     fields("tourId", self.tourId_);
     fields("attributes", self.attributes_);
-    fields("status", self.status_);
+    fields.template named<AllowedTournamentStatus>("status", self.status_);
     fields("numEntrants", self.numEntrants_);
     fields("currentNumPlayers", self.currentNumPlayers_);
     fields("prizeStructureUpdate", self.prizeStructureUpdate_);
     fields("startTime", self.startTime_);
     fields.onlyIf(hasBit("attributes", self.attributes_, TourSummaryAttributes::FLIGHT), "numPlayersInMainEvent",
                   self.numPlayersInMainEvent_);
-    fields("regStatus", self.regStatus_);
+    fields.template named<PlayerRegistrationStatus>("regStatus", self.regStatus_);
   }
 
  private:

@@ -51,8 +51,8 @@ class HERALD_API WinClientTournamentInfo : public ReadableRecord<WinClientTourna
     fields("nrOfWinners", self.nrOfWinners_);
     fields("startingChips", self.travelled_.startingChips);
     fields("tournamentType", self.tournamentType_);
-    fields("gameType", self.gameType_);
-    fields("limitType", self.limitType_);
+    fields.template named<GameTypes::AllowedGameType>("gameType", self.gameType_);
+    fields.template named<LimitTypes::AllowedLimitType>("limitType", self.limitType_);
     fields("name", self.name_);
     fields("description", self.description_);
     fields("playerStatus", self.playerStatus_);

@@ -16,7 +16,7 @@ class HERALD_API WinPotInfo : public ReadableRecord<WinPotInfo> {
 
   template <class Self, class Fields>
   static void wire(Self& self, Fields& fields) {
-    fields("potType", self.potType_);
+    fields.template named<AllowedPotType>("potType", self.potType_);
     fields.ignoring("credit", self.credit_);
     fields.ignoring("handValue", self.handValue_);
   }
