@@ -5,36 +5,21 @@
 #include <herald/inspect/Json.h>
 #include <herald/messages/ClientMessageFactory.h>
 #include <herald/messages/ClientMessageTable.h>
-#include <herald/platform/keystone/BugReporter.h>
 #include <herald/platform/keystone/ByteStream.h>
 
 #include <algorithm>
-#include <cstdio>
-#include <cstdlib>
-#include <memory>
+
+#include "Fuzzing.h"
 
 using namespace Tessel;
 
 namespace {
-
-class Nowhere : public ReportSink {
- public:
-  void report(const KVRException&) override {}
-  void trace(std::wstring_view) override {}
-  void log(std::wstring_view, std::wstring_view, int) override {}
-};
 
 class Handler : public DefaultClientMessageHandler {
  public:
   using DefaultClientMessageHandler::handle;
   void handle(const AbusiveChatWarning&) override {}
 };
-
-void require(bool holds, const char* rule) {
-  if (holds) return;
-  std::fprintf(stderr, "broken: %s\n", rule);
-  std::abort();
-}
 
 // What has been read as a whole makes a body that is read as a whole and makes the same body again.
 void encodeAgain(int id, const ClientMessage& message) {
@@ -48,11 +33,6 @@ void encodeAgain(int id, const ClientMessage& message) {
 }
 
 }  // namespace
-
-extern "C" int LLVMFuzzerInitialize(int*, char***) {
-  BugReporter::getInstance().setSink(std::make_shared<Nowhere>());
-  return 0;
-}
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   if (size == 0) return 0;
