@@ -11,6 +11,7 @@
 #include "Ids.h"
 #include "Output.h"
 #include "Stats.h"
+#include "schema/Schemas.h"
 
 namespace Tessel {
 
@@ -46,6 +47,10 @@ message).
 Example:
   herald ids | grep Tour)";
 
+constexpr const char* SCHEMA_HELP = R"(Example:
+  herald schema wireshark > herald.lua
+  wireshark -X lua_script:herald.lua session.pcap)";
+
 constexpr const char* CATALOGUE_HELP = R"(Example:
   herald catalogue | grep -A 8 '^PlayerInfo$')";
 
@@ -56,6 +61,7 @@ CommandLine::CommandLine() : app_("Looks into captures of the messages of a poke
   app_.footer(EXIT_STATUSES);
   addDecode();
   addStats();
+  addSchema();
   ids_ = app_.add_subcommand("ids", "Print the ids of all messages and requests")->footer(IDS_HELP);
   app_.add_subcommand("catalogue", "Print every message, request and record with its fields")->footer(CATALOGUE_HELP);
 }
@@ -81,11 +87,18 @@ void CommandLine::addStats() {
   stats_->add_option("FILE", file_, "The capture; - is standard input")->required();
 }
 
+void CommandLine::addSchema() {
+  schema_ = app_.add_subcommand("schema", "Print the protocol for other tools")->footer(SCHEMA_HELP);
+  schema_->add_option("LANGUAGE", language_, "wireshark")->required()->check(CLI::IsMember({"wireshark"}));
+}
+
 bool CommandLine::run(Output& output, Diagnostics& diagnostics) const {
   if (decode_->parsed()) return decode(output, diagnostics);
   if (stats_->parsed()) return printStats(file_, output, diagnostics);
   if (ids_->parsed())
     printIds(output);
+  else if (schema_->parsed())
+    output.write(wiresharkSchema(Schema::ofProtocol()));
   else
     output.write(protocolCatalogue());
   return true;

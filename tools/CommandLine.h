@@ -22,14 +22,17 @@ class CommandLine {
  private:
   void addDecode();
   void addStats();
+  void addSchema();
   bool decode(Output& output, Diagnostics& diagnostics) const;
 
   CLI::App app_;
   CLI::App* decode_ = nullptr;
   CLI::App* stats_ = nullptr;
   CLI::App* ids_ = nullptr;
+  CLI::App* schema_ = nullptr;
   std::string file_;
   std::string hex_;
+  std::string language_;
   int id_ = 0;
   bool asJson_ = false;
 };
