@@ -47,9 +47,10 @@ message).
 Example:
   herald ids | grep Tour)";
 
-constexpr const char* SCHEMA_HELP = R"(Example:
+constexpr const char* SCHEMA_HELP = R"(Examples:
   herald schema wireshark > herald.lua
-  wireshark -X lua_script:herald.lua session.pcap)";
+  wireshark -X lua_script:herald.lua session.pcap
+  herald schema kaitai > herald.ksy)";
 
 constexpr const char* CATALOGUE_HELP = R"(Example:
   herald catalogue | grep -A 8 '^PlayerInfo$')";
@@ -89,7 +90,7 @@ void CommandLine::addStats() {
 
 void CommandLine::addSchema() {
   schema_ = app_.add_subcommand("schema", "Print the protocol for other tools")->footer(SCHEMA_HELP);
-  schema_->add_option("LANGUAGE", language_, "wireshark")->required()->check(CLI::IsMember({"wireshark"}));
+  schema_->add_option("LANGUAGE", language_, "For what")->required()->check(CLI::IsMember(schemaLanguages()));
 }
 
 bool CommandLine::run(Output& output, Diagnostics& diagnostics) const {
@@ -98,7 +99,7 @@ bool CommandLine::run(Output& output, Diagnostics& diagnostics) const {
   if (ids_->parsed())
     printIds(output);
   else if (schema_->parsed())
-    output.write(wiresharkSchema(Schema::ofProtocol()));
+    output.write(printSchema(language_));
   else
     output.write(protocolCatalogue());
   return true;

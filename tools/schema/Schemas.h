@@ -2,10 +2,20 @@
 #include <herald/inspect/Schema.h>
 
 #include <string>
+#include <vector>
 
 namespace Tessel {
 
 /// A dissector for Wireshark, in Lua: of captures of link type USER0.
 std::string wiresharkSchema(const Schema& schema);
+
+/// A format for Kaitai Struct: of the payload of one packet of a capture.
+std::string kaitaiSchema(const Schema& schema);
+
+/// What `printSchema` can print the protocol in.
+std::vector<std::string> schemaLanguages();
+
+/// The protocol in one of these languages.
+std::string printSchema(const std::string& language);
 
 }  // namespace Tessel
