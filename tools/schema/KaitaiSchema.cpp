@@ -220,7 +220,10 @@ std::string kaitaiSchema(const Schema& schema) {
   text.append(REQUEST_HEADER).append(casesOf(schema.requests()));
   for (const auto& [name, body] : bodiesOf(schema.messages())) text += typeOf(*body, "Message");
   for (const auto& [name, body] : bodiesOf(schema.requests())) text += typeOf(*body, "Request");
-  for (const auto& [name, record] : schema.records()) text += typeOf(record, "Record");
+  for (const auto& [name, record] : schema.records()) {
+    // One class is a message and, in another message, a record.
+    if (schema.find(name) == &record) text += typeOf(record, "Record");
+  }
   return text;
 }
 

@@ -7,6 +7,7 @@ namespace Tessel {
 namespace {
 
 const std::map<std::string, std::string (*)(const Schema&)> PRINTERS{
+    {"json", jsonSchema},
     {"kaitai", kaitaiSchema},
     {"wireshark", wiresharkSchema},
 };

@@ -12,6 +12,9 @@ std::string wiresharkSchema(const Schema& schema);
 /// A format for Kaitai Struct: of the payload of one packet of a capture.
 std::string kaitaiSchema(const Schema& schema);
 
+/// A JSON schema of the lines of `herald decode --json`.
+std::string jsonSchema(const Schema& schema);
+
 /// What `printSchema` can print the protocol in.
 std::vector<std::string> schemaLanguages();
 
