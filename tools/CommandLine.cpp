@@ -50,7 +50,9 @@ Example:
 constexpr const char* SCHEMA_HELP = R"(Examples:
   herald schema wireshark > herald.lua
   wireshark -X lua_script:herald.lua session.pcap
-  herald schema kaitai > herald.ksy)";
+  herald schema kaitai > herald.ksy
+  herald schema json > herald.schema.json
+  herald schema page session.pcap > protocol.html)";
 
 constexpr const char* CATALOGUE_HELP = R"(Example:
   herald catalogue | grep -A 8 '^PlayerInfo$')";
@@ -91,6 +93,7 @@ void CommandLine::addStats() {
 void CommandLine::addSchema() {
   schema_ = app_.add_subcommand("schema", "Print the protocol for other tools")->footer(SCHEMA_HELP);
   schema_->add_option("LANGUAGE", language_, "For what")->required()->check(CLI::IsMember(schemaLanguages()));
+  schema_->add_option("CAPTURES", captures_, "The captures that give the examples of the page");
 }
 
 bool CommandLine::run(Output& output, Diagnostics& diagnostics) const {
@@ -99,7 +102,7 @@ bool CommandLine::run(Output& output, Diagnostics& diagnostics) const {
   if (ids_->parsed())
     printIds(output);
   else if (schema_->parsed())
-    output.write(printSchema(language_));
+    output.write(printSchema(language_, captures_));
   else
     output.write(protocolCatalogue());
   return true;

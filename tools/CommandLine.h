@@ -1,6 +1,7 @@
 #pragma once
 #include <CLI/CLI.hpp>
 #include <string>
+#include <vector>
 
 namespace Tessel {
 
@@ -33,6 +34,7 @@ class CommandLine {
   std::string file_;
   std::string hex_;
   std::string language_;
+  std::vector<std::string> captures_;
   int id_ = 0;
   bool asJson_ = false;
 };
