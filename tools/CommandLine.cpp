@@ -14,6 +14,7 @@
 #include "Ids.h"
 #include "Output.h"
 #include "Stats.h"
+#include "schema/Schemas.h"
 
 namespace Tessel {
 
@@ -74,6 +75,13 @@ message).
 Example:
   herald ids | grep Tour)";
 
+constexpr const char* SCHEMA_HELP = R"(Examples:
+  herald schema wireshark > herald.lua
+  wireshark -X lua_script:herald.lua session.pcap
+  herald schema kaitai > herald.ksy
+  herald schema json > herald.schema.json
+  herald schema page session.pcap > protocol.html)";
+
 constexpr const char* CATALOGUE_HELP = R"(Example:
   herald catalogue | grep -A 8 '^PlayerInfo$')";
 
@@ -108,6 +116,7 @@ CommandLine::CommandLine() : app_("Looks into captures of the messages of a poke
   addEncode();
   addStats();
   addDiff();
+  addSchema();
   app_.add_subcommand("ids", "Print the ids of all messages and requests")->footer(IDS_HELP);
   app_.add_subcommand("catalogue", "Print every message, request and record with its fields")->footer(CATALOGUE_HELP);
   for (CLI::App* subcommand : app_.get_subcommands({})) subcommands_[subcommand->get_name()] = subcommand;
@@ -189,6 +198,12 @@ void CommandLine::addDiff() {
   diff->get_option("FILE")->required()->expected(2);
 }
 
+void CommandLine::addSchema() {
+  CLI::App* schema = app_.add_subcommand("schema", "Print the protocol for other tools")->footer(SCHEMA_HELP);
+  schema->add_option("LANGUAGE", language_, "For what")->required()->check(CLI::IsMember(schemaLanguages()));
+  schema->add_option("CAPTURES", files_, "The captures that give the examples of the page");
+}
+
 void CommandLine::parse(int argc, char** argv) {
   if (argc > 1) firstArgument_ = argv[1];
   app_.parse(argc, argv);
@@ -203,6 +218,8 @@ int CommandLine::run(Output& output, Diagnostics& diagnostics) const {
   if (isCalled("diff")) return diff(output, diagnostics);
   if (isCalled("ids"))
     printIds(output);
+  else if (isCalled("schema"))
+    output.write(printSchema(language_, files_));
   else
     output.write(protocolCatalogue());
   return 0;

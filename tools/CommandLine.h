@@ -28,6 +28,7 @@ class CommandLine {
   void addEncode();
   void addStats();
   void addDiff();
+  void addSchema();
   void addFiles(CLI::App& subcommand);
   void addFilter(CLI::App& subcommand);
   void addAppearance(CLI::App& subcommand);
@@ -45,6 +46,7 @@ class CommandLine {
   std::string firstArgument_;
   std::vector<std::string> files_;
   std::string hex_;
+  std::string language_;
   std::optional<int> id_;
   std::vector<std::string> classes_;
   std::string direction_;

@@ -6,7 +6,7 @@ _herald() {
   COMPREPLY=()
 
   if [ "$COMP_CWORD" = 1 ]; then
-    mapfile -t COMPREPLY < <(compgen -W "decode encode stats diff ids catalogue -h --help --version" -- "$current")
+    mapfile -t COMPREPLY < <(compgen -W "decode encode stats diff ids catalogue schema -h --help --version" -- "$current")
     return
   fi
   case $previous in
@@ -20,6 +20,10 @@ _herald() {
     --hex) [ "$subcommand" = encode ] || return ;;
   esac
 
+  if [ "$subcommand" = schema ] && [ "$COMP_CWORD" = 2 ]; then
+    mapfile -t COMPREPLY < <(compgen -W "wireshark kaitai json page" -- "$current")
+    return
+  fi
   local options="-h --help"
   case $subcommand in
     decode) options+=" $filters $appearance --json --pretty --fields --columns --follow --hex" ;;
