@@ -5,6 +5,7 @@
 #include <herald/HeraldUtils/CurrentServerTimeModel.h>
 #include <herald/HeraldUtils/DateUtils.h>
 #include <herald/HeraldUtils/NodeTimer.h>
+#include <herald/HeraldUtils/Subscription.h>
 #include <herald/HeraldUtils/SystemTime.h>
 #include <herald/HeraldUtils/TournamentBuyIn.h>
 #include <herald/HeraldUtils/UserAccountModel.h>
@@ -13,12 +14,14 @@
 #include <herald/SpecificTournamentModel/SpecificTournamentsHandler.h>
 #include <herald/SpecificTournamentModel/TournamentBaseModel.h>
 #include <herald/SpecificTournamentModel/TournamentBreakModel.h>
+#include <herald/SpecificTournamentModel/TournamentFeed.h>
 #include <herald/SpecificTournamentModel/TournamentPlayerRankingModel.h>
 #include <herald/SpecificTournamentModel/TournamentRebuyModel.h>
 #include <herald/SpecificTournamentModel/TournamentRegisteredPlayers.h>
 #include <herald/SpecificTournamentModel/TournamentTable.h>
 #include <herald/SpecificTournamentModel/TournamentTables.h>
 #include <herald/SpecificTournamentModel/TournamentUpdateObjects.h>
+#include <herald/SpecificTournamentModel/TournamentUpdateVisitor.h>
 #include <herald/dispatch/AbstractClientMessageHandler.h>
 #include <herald/dispatch/ConditionedClientMessages.h>
 #include <herald/dispatch/ConnectingClientMessageHandler.h>

@@ -1,10 +1,6 @@
 #include "Capture.h"
 
-#include <herald/messages/ClientMessageTable.h>
-
-#include <algorithm>
 #include <stdexcept>
-#include <string>
 
 namespace Samples {
 
@@ -35,12 +31,6 @@ void Capture::server(int id, const Body& body) {
 void Capture::client(const Tessel::ServerMessage& request) {
   milliseconds_ += CLIENT_MILLISECONDS;
   write(Body().i8(CLIENT_TO_SERVER).record(request));
-}
-
-int Capture::idOf(std::string_view messageClass) {
-  const auto row = std::ranges::find(Tessel::clientMessageTable(), messageClass, &Tessel::ClientMessageRow::name);
-  if (row == Tessel::clientMessageTable().end()) throw std::invalid_argument("no id: " + std::string(messageClass));
-  return row->id;
 }
 
 void Capture::write(const Body& packet) {

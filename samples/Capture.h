@@ -1,20 +1,22 @@
 #pragma once
 #include <herald/messages/ServerMessage.h>
-#include <herald/wire/WireTypes.h>
 #include <pcap/pcap.h>
 
 #include <cstdint>
 #include <filesystem>
 #include <memory>
-#include <string_view>
+#include <vector>
 
-#include "Body.h"
+#include "People.h"
+#include "engine/Audience.h"
 
 namespace Samples {
 
-/// One client's connection, recorded packet by packet into a classic pcap file. Its clock starts at a fixed date and
+using CardRoom::Body;
+
+/// The user's connection, recorded packet by packet into a classic pcap file. Its clock starts at a fixed date and
 /// moves a little with each packet, so that a play gives the same bytes at every run.
-class Capture {
+class Capture : public CardRoom::Audience {
  public:
   /// Replaces the file; throws `std::runtime_error` when it cannot be written.
   explicit Capture(const std::filesystem::path& file);
@@ -22,17 +24,20 @@ class Capture {
   /// The server sends a message, under the id (the first, where there are two) that the message's class has.
   template <class Message>
   void server(const Body& body = {}) {
-    server(idOf(Tessel::typeName<Message>()), body);
+    server(CardRoom::messageId<Message>(), body);
   }
   void server(int id, const Body& body);
 
   /// The client sends a request.
   void client(const Tessel::ServerMessage& request);
 
-  /// Nothing is sent for so many milliseconds.
-  void pause(std::int64_t milliseconds) { milliseconds_ += milliseconds; }
-  /// Milliseconds since 1970.
-  std::int64_t now() const { return milliseconds_; }
+  std::vector<int> listeners() const override { return {USER.id}; }
+  void tell(int, int messageId, const Body& body) override { server(messageId, body); }
+  void answered(const Person& person, const Tessel::ServerMessage& request) override {
+    if (person.id == USER.id) client(request);
+  }
+  void pause(std::int64_t milliseconds) override { milliseconds_ += milliseconds; }
+  std::int64_t now() const override { return milliseconds_; }
 
   /// Completes the file; throws `std::runtime_error` when something could not be written.
   void close();
@@ -43,7 +48,6 @@ class Capture {
     void operator()(pcap_dumper_t* dumper) const { pcap_dump_close(dumper); }
   };
 
-  static int idOf(std::string_view messageClass);
   void write(const Body& packet);
 
   std::unique_ptr<pcap_t, Close> handle_;

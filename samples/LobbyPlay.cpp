@@ -16,28 +16,19 @@
 #include <vector>
 
 #include "Capture.h"
-#include "CardRoom.h"
+#include "People.h"
 #include "Plays.h"
+#include "engine/Lobby.h"
 
 namespace Samples {
 
+using namespace CardRoom;
 using namespace Tessel;
 
 namespace {
 
 enum Node { ROOT = 1, RING_GAMES = 10, HOLDEM = 11, OMAHA = 12, DRAW = 13, PRIVATE_TABLES = 14, TOURNAMENTS = 20 };
-enum LobbyType { LOBBY_ROOT, LOBBY_RING_GAME, LOBBY_SCHEDULED, LOBBY_SIT_AND_GO };
-enum NodeType { PLAIN = 0, SUBSCRIBABLE = 1, LAST_SELECTED = 2, PRIVATE_NODE = 4 };
 using JoinStatus = JoinRequestStatus::Status;
-constexpr int GAMES_AND_SEATS = 1;
-
-struct TreeNode {
-  int id;
-  std::wstring_view name;
-  int nodeType;
-  LobbyType lobbyType;
-  std::vector<TreeNode> subNodes{};
-};
 
 TreeNode lobbyTree() {
   const std::vector<TreeNode> ringGames = {{HOLDEM, L"Texas Hold'em", SUBSCRIBABLE | LAST_SELECTED, LOBBY_RING_GAME},
@@ -51,19 +42,6 @@ TreeNode lobbyTree() {
           LOBBY_ROOT,
           {{RING_GAMES, L"Ring games", PLAIN, LOBBY_RING_GAME, ringGames},
            {TOURNAMENTS, L"Tournaments", PLAIN, LOBBY_SCHEDULED, tournaments}}};
-}
-
-void addTree(Body& body, const TreeNode& node) {
-  constexpr int PORT = 6100;
-  constexpr int NO_NAME_ID = -1;
-  body.i16(node.id).i16(NO_NAME_ID).text(node.name).i16(PORT).i8(node.nodeType).i8(node.lobbyType);
-  body.list<std::int8_t>(node.subNodes, addTree);
-}
-
-Body tree(const TreeNode& root) {
-  Body body;
-  addTree(body, root);
-  return body;
 }
 
 Body chat(const Person& person, std::wstring_view text) { return Body().record(ChatMessage(person.nick, text)); }
@@ -93,62 +71,6 @@ Body vipInfo(const std::vector<Vip>& vips) {
   }
   return infoVector(InfoVector::VIPPlayerInfoTypeString, infos);
 }
-
-/// The games of one lobby node, and what has changed since the client was told.
-class GameNode {
- public:
-  GameNode(int id, std::vector<Game> games) : id_(id), games_(std::move(games)) {}
-
-  Body list() const { return Body().i16(id_).list<std::int16_t>(games_, addGame); }
-  const std::vector<Game>& games() const { return games_; }
-
-  Game& game(int id) {
-    const auto game = std::ranges::find(games_, id, &Game::id);
-    if (game == games_.end()) throw std::logic_error("a game that is not there");
-    return *game;
-  }
-
-  void open(const Game& game) {
-    games_.push_back(game);
-    added_.push_back(game);
-  }
-
-  void close(int id) {
-    if (game(id).players != 0) throw std::logic_error("a game with players was closed");
-    std::erase_if(games_, [&](const Game& game) { return game.id == id; });
-    removed_.push_back(id);
-  }
-
-  void seat(int id, int players) {
-    Game& changed = game(id);
-    changed.players += players;
-    if (changed.players < 0 || changed.players > changed.maxPlayers) throw std::logic_error("seats that are not there");
-    seatsOf_[id] = changed.players;
-  }
-
-  /// What has changed; from now on nothing has.
-  Body update() {
-    std::vector<int> ids;
-    std::vector<int> seats;
-    for (const auto& [id, players] : std::exchange(seatsOf_, {})) {
-      ids.push_back(id);
-      seats.push_back(players);
-    }
-    Body body;
-    body.i16(id_).list<std::int16_t>(std::exchange(added_, {}), addGame);
-    body.list<std::int16_t, std::int32_t>(std::exchange(removed_, {}));
-    return body.list<std::int16_t, std::int32_t>(ids).list<std::int16_t, std::int32_t>(seats);
-  }
-
- private:
-  static void addGame(Body& body, const Game& game) { body.fields(pokerGame(game)); }
-
-  int id_;
-  std::vector<Game> games_;
-  std::vector<Game> added_;
-  std::vector<int> removed_;
-  std::map<int, int> seatsOf_;
-};
 
 class LobbyPlay {
  public:
@@ -186,18 +108,6 @@ class LobbyPlay {
     capture_.server<AccountBalanceInfoMsg>(Body().list<std::int8_t>(balances_, [](Body& body, const auto& balance) {
       body.money({balance.second, balance.first});
     }));
-  }
-
-  static Body monetaryInfo() {
-    constexpr int FREE_AND_REFILLABLE = 3;
-    constexpr int REAL = 4;
-    Body body;
-    body.i8(3).i16(EURO).text(L"real").text(L"EUR").i16(DOLLAR).text(L"real").text(L"USD");
-    body.i16(PLAY_CHIPS).text(L"play").text(L"");
-    body.i8(2).text(L"real").text(L"Real money").i8(REAL).i8(1);
-    body.text(L"play").text(L"Play money").i8(FREE_AND_REFILLABLE).i8(2);
-    body.i8(2).text(L"EUR").text(L"€").text(L"").i16(100).i8(1);
-    return body.text(L"USD").text(L"$").text(L"").i16(100).i8(2);
   }
 
   void browse() {
@@ -394,7 +304,7 @@ class LobbyPlay {
                         .maxPlayers = 6,
                         .flags = Game::FAST | Game::PRIVATE | Game::MODERATED};
     capture_.client(PGCreateGameReq(
-        PGSettings(1, table.maxPlayers, PGSettings::JoinType{1}, table.name, PokerGameInfo::GameSpeed{Game::FAST})));
+        PGSettings(1, table.maxPlayers, PGSettings::JoinType{1}, std::wstring_view(table.name), PokerGameInfo::GameSpeed{Game::FAST})));
     capture_.server<PGCreateGameReply>(pokerGame(table));
     capture_.server<PGPromotedModerator>(Body().i32(USER.id));
 

@@ -6,28 +6,33 @@
 #include <herald/messages/TableRequests.h>
 #include <herald/messages/TableStateEvents.h>
 
+#include "Capture.h"
 #include "Plays.h"
-#include "Table.h"
+#include "engine/Table.h"
 
 namespace Samples {
 
+using namespace CardRoom;
 using namespace Tessel;
 using enum AllowedDealType;
 
 namespace {
 
-constexpr Game GAME = {.id = 7301,
-                       .name = L"Nordlys",
-                       .bigBlind = 100,
-                       .ante = 10,
-                       .maxPlayers = 6,
-                       .flags = Game::BOOTABLE | Game::NETWORK};
+const Game GAME = {.id = 7301,
+                   .name = L"Nordlys",
+                   .bigBlind = 100,
+                   .ante = 10,
+                   .maxPlayers = 6,
+                   .flags = Game::BOOTABLE | Game::NETWORK};
+
+constexpr std::uint32_t SEED = 20240308;
+constexpr int LAST_HAND = 118'200;
 
 enum SitDownStatus { SAT_DOWN = 0, SEAT_TAKEN = 1, TOO_LITTLE_MONEY = 7 };
 enum SitOutStatus { NOT_ENOUGH_FUNDS = 0, WILL_BE_SAT_OUT = 1 };
 enum VoteStatus { VOTE_CAST = 0, VOTE_CANCELLED = 1 };
 
-std::vector<Player> players() {
+std::list<Player> players() {
   return {{.person = JOKER, .account = 11'000, .seat = 0, .stack = 8'420},
           {.person = DUC, .account = 15'000, .seat = 1, .stack = 9'800, .sittingIn = true},
           {.person = AASE, .account = 2'500, .seat = 2, .stack = 24'350, .sittingIn = true},
@@ -39,7 +44,9 @@ std::vector<Player> players() {
 
 class TablePlay {
  public:
-  explicit TablePlay(Capture& capture) : capture_(capture), table_(capture, GAME, players()) {}
+  explicit TablePlay(Capture& capture) : capture_(capture), table_(capture, GAME, players(), SEED) {
+    table_.setHandNumber(LAST_HAND);
+  }
 
   void play() {
     arrive();
@@ -69,7 +76,7 @@ class TablePlay {
     table_.tell<SitDownReply>(Body().i8(SAT_DOWN));
     table_.sitDown(USER, 0);
     capture_.client(ShowCashierReq());
-    table_.tell<ShowCashierOk>(cashier(GAME, table_.user().account));
+    table_.tell<ShowCashierOk>(cashier(GAME, table_.player(USER).account));
     for (const std::int64_t amount : {70'000, 20'000}) {
       capture_.client(ReserveMoney(amount));
       table_.takeMoney(USER, amount);
@@ -109,6 +116,7 @@ class TablePlay {
     table_.dealBoard(FLOP);
     table_.betting({CHECK, raiseTo(2000), ALL_IN, ALL_IN});
     table_.showAllIn();
+    table_.tellChances();
     table_.dealBoard(TURN);
     table_.dealBoard(RIVER);
     table_.showdown();
@@ -137,7 +145,7 @@ class TablePlay {
     table_.dealBoard(TURN);
     table_.betting({CHECK, prepared(CHECK)});
     table_.dealBoard(RIVER);
-    capture_.client(ServerSitOut(USER.id, table_.user().seat));
+    capture_.client(ServerSitOut(USER.id, table_.player(USER).seat));
     table_.tell<ClientWaitingToSitOut>();
     table_.betting({raiseTo(1015), prepared(CALL)});
     table_.showdown();
@@ -214,7 +222,7 @@ class TablePlay {
   void walk() {
     table_.changeGame(AllowedGameType::TEXAS_HOLDEM, AllowedLimitType::NO_LIMIT);
     capture_.client(AutoPostBlind());
-    table_.setAutoPost(true);
+    table_.player(USER).autoPost = true;
     startHand();
     table_.dealHands(2);
     table_.betting({FOLD, FOLD, FOLD, FOLD, FOLD});
@@ -233,7 +241,7 @@ class TablePlay {
     table_.tell<ClientOpenTableReq>(infoVector(InfoVector::PokerGameInfoTypeString, {pokerGame(other)}));
 
     // Who has left with a win cannot come back with less.
-    const Money won = table_.moneyOf(table_.user());
+    const Money won = table_.moneyOf(table_.player(USER));
     capture_.client(PlayerStandUpReq());
     table_.standUp(USER);
     capture_.client(SitDownRequest(0));

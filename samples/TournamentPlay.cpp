@@ -12,11 +12,13 @@
 
 #include <vector>
 
+#include "Capture.h"
 #include "Plays.h"
-#include "Tournament.h"
+#include "engine/Tournament.h"
 
 namespace Samples {
 
+using namespace CardRoom;
 using namespace Tessel;
 using Tour = TournamentSummary;
 using Event = AllowedTournamentNotification;
@@ -35,7 +37,9 @@ const Tour SPRING = {.id = 9001,
                      .attributes = Tour::SIT_AND_GO | Tour::PASSWORD | Tour::REBUYS | Tour::NO_WEB_SIGNUP,
                      .name = L"Spring Sit & Go 1",
                      .description = L"Rebuys and add-on, a ticket for the winner",
-                     .status = AllowedTournamentStatus::REGISTRATION_OPEN};
+                     .tableName = L"Spring Table",
+                     .status = AllowedTournamentStatus::REGISTRATION_OPEN,
+                     .ticketValue = 2500};
 const Tour FLIGHT = {.id = 9002,
                      .attributes = Tour::FLIGHT,
                      .name = L"Spring main event, flight B",
@@ -73,7 +77,7 @@ class TournamentPlay {
     capture_.server(node == SIT_AND_GO ? SIT_AND_GO_CHANGES : SCHEDULED_CHANGES, body);
   }
 
-  void tellSpringChange() { tellChanges(SIT_AND_GO, {}, {summaryUpdate(spring_.summary())}); }
+  void tellSpringChange() { tellChanges(SIT_AND_GO, {}, {summaryUpdate(spring_.summaryFor(USER.id))}); }
 
   void announce() {
     tellChanges(SIT_AND_GO, {summary(SPRING)}, {});
@@ -93,7 +97,7 @@ class TournamentPlay {
   void tellData() {
     constexpr int TYPE_SIT_AND_GO = 0;
     constexpr std::int64_t BIG_BLINDS[] = {20, 30, 50, 100, 150, 200};
-    const Tour& tour = spring_.summary();
+    const Tour tour = spring_.summaryFor(USER.id);
     Body body;
     body.i32(tour.id).money(euros(Tour::BUY_IN)).money(euros(Tour::FEE)).i32(tour.entrants);
     body.money(euros(tour.prizePool)).i32(1).i32(Tour::PAID_PLACES).money(chipsOf(Tour::STARTING_CHIPS));
@@ -302,7 +306,7 @@ class TournamentPlay {
     if (result == AllowedCreatePrivateTournamentError::NONE) tellChanges(SIT_AND_GO, {summary(tournament)}, {});
   }
 
-  static Tour privateTournament(int id, std::wstring_view name) {
+  static Tour privateTournament(int id, const std::wstring& name) {
     return {.id = id,
             .attributes = Tour::SIT_AND_GO | Tour::PASSWORD | Tour::NO_WEB_SIGNUP,
             .name = name,

@@ -1,10 +1,9 @@
 #include "TournamentScreen.h"
 
-#include <herald/SpecificTournamentModel/TournamentUpdateObjects.h>
 #include <herald/platform/keystone/Format.h>
 #include <herald/platform/keystone/UTFEncoder.h>
 
-#include <set>
+#include <utility>
 
 using namespace Tessel;
 
@@ -74,25 +73,7 @@ TournamentScreen::TournamentScreen(SpecificTournamentModel& model, std::ostream&
     : model_(model), out_(out), inPlace_(inPlace) {
   if (inPlace_) out_ << "\033[2J";
   for (int part = 0; part < PART_COUNT; ++part) draw(static_cast<Part>(part));
-  model_.addObserver(*this);
-}
-
-TournamentScreen::~TournamentScreen() { model_.removeObserver(*this); }
-
-const std::unordered_map<std::type_index, std::vector<TournamentScreen::Part>>& TournamentScreen::partsOfUpdates() {
-  static const std::unordered_map<std::type_index, std::vector<Part>> parts = {
-      {typeid(TournamentGlobalInformationUpdateObject), {NAME, STATE, PRIZES}},
-      {typeid(TournamentLevelInformationUpdateObject), {LEVEL}},
-      {typeid(TournamentBreakUpdateObject), {BREAK}},
-      {typeid(TournamentBaseUpdateObject), {ENTRANTS}},
-      {typeid(TournamentPlayerRankingUpdateObject), {RANKING, USER}},
-      {typeid(TournamentPlayerInformationUpdateObject), {USER}},
-      {typeid(TournamentRegisteredPlayersUpdateObject), {PLAYERS}},
-      {typeid(TournamentTablesUpdateObject), {TABLES}},
-      {typeid(TournamentTableRankedPlayersUpdateObject), {TABLES}},
-      {typeid(TournamentRebuyUpdateObject), {REBUY}},
-  };
-  return parts;
+  subscription_ = Subscription(model_, *this);
 }
 
 void TournamentScreen::update(const NotificationUpdateObject& update) {
@@ -100,12 +81,8 @@ void TournamentScreen::update(const NotificationUpdateObject& update) {
 }
 
 void TournamentScreen::drawChanges() {
-  std::set<Part> changed;
-  for (const auto& change : changes_.pickupAll()) {
-    const auto parts = partsOfUpdates().find(typeid(*change));
-    if (parts != partsOfUpdates().end()) changed.insert(parts->second.begin(), parts->second.end());
-  }
-  for (const Part part : changed) draw(part);
+  for (const auto& change : changes_.pickupAll()) accept(*change, *this);
+  for (const Part part : std::exchange(changed_, {})) draw(part);
 }
 
 void TournamentScreen::draw(Part part) {

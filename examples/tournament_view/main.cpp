@@ -1,5 +1,6 @@
 // Shows a tournament as its messages arrive, here from a capture.
 
+#include <herald/SpecificTournamentModel/TournamentFeed.h>
 #include <herald/messages/ClientMessageFactory.h>
 #include <herald/platform/keystone/BugReporter.h>
 #include <herald/platform/keystone/ByteStream.h>
@@ -13,7 +14,6 @@
 #endif
 
 #include "../support/ServerPackets.h"
-#include "TournamentFeed.h"
 #include "TournamentScreen.h"
 
 using namespace Tessel;

@@ -2,15 +2,17 @@
 #include <herald/platform/tableau/DealType.h>
 #include <herald/platform/tableau/PotType.h>
 
+#include <deque>
 #include <initializer_list>
+#include <list>
 #include <string_view>
 #include <vector>
 
-#include "Capture.h"
-#include "CardRoom.h"
+#include "Audience.h"
+#include "Game.h"
 #include "Poker.h"
 
-namespace Samples {
+namespace CardRoom {
 
 /// What a player does in turn, and what comes between.
 struct Move {
@@ -52,58 +54,89 @@ struct Player {
   bool sittingIn = false;
   bool inHand = false;
   bool slow = false;
+  bool autoPost = false;  ///< Posts blinds and antes without being asked for an answer.
   Cards cards{};
   BestHand best{};
 };
 
-/// A poker table as its server runs it: seats, chips, cards and the rules of play. It tells the recorded client what
-/// happens, and answers for the client's user with the requests that a client sends. No chip is ever made or lost: the
+/// A poker table as its server runs it: seats, chips, cards and the rules of play. No chip is ever made or lost: the
 /// sum of all accounts, stacks, bets, the pot and the rake is tested before each message.
-class Table {
+class Table : public Teller {
  public:
-  Table(Capture& capture, const Game& game, std::vector<Player> players);
-
-  /// Sends a message of the server.
-  template <class Message>
-  void tell(const Body& body = {}) {
-    checkChips();
-    capture_.server<Message>(body);
-  }
+  Table(Audience& audience, const Game& game, std::list<Player> players, std::uint32_t seed);
 
   const Game& game() const { return game_; }
-  Player& player(const Person& person);
-  Player& user() { return player(USER); }
+  Player& player(const Person& person) { return player(person.id); }
+  Player& player(int id);
+  /// Null for one who is not here.
+  const Player* find(int id) const;
+  const std::list<Player>& players() const { return players_; }
   Tessel::Money moneyOf(const Player& player) const { return {player.stack + player.bet, game_.unit}; }
+  /// All that is here: accounts, stacks, bets, the pot and the rake.
+  std::int64_t chips() const;
+  /// The rake of all hands.
+  std::int64_t house() const { return house_; }
 
   void tellGameState();
+  void tellGameState(int listener);
   void tellTableInfo();
+  void tellTableInfo(int listener);
 
-  /// Seats.
+  /// Seats. An account comes to the table with its owner, and leaves with its owner.
+  void enter(const Person& person, std::int64_t account);
+  /// Answers the account. Throws for a player who is in a hand.
+  std::int64_t leave(const Person& person);
   void sitDown(const Person& person, int seat);
   void takeMoney(const Person& person, std::int64_t amount);
   void sitIn(const Person& person, bool again);
   void sitOut(const Person& person, int status);
   void standUp(const Person& person);
+  /// The player's connection is slow, or well again.
+  void setSlow(Player& player, bool slow);
 
-  /// The table goes on with another game.
+  /// The table goes on with another game, or with other blinds.
   void changeGame(AllowedGameType type, AllowedLimitType limit);
-  void setAutoPost(bool autoPost) { autoPost_ = autoPost; }
+  void changeBlinds(std::int64_t bigBlind, std::int64_t ante);
 
   /// One hand. Cards are dealt from a deck that begins with the named ones.
-  void startHand(std::string_view firstCards);
+  void startHand(std::string_view firstCards = {});
+  int handNumber() const { return handNumber_; }
+  void setHandNumber(int lastHand) { handNumber_ = lastHand; }
+  /// Those who would play a hand that began now.
+  int playersReady() const;
+  bool isHandRunning() const { return handRunning_; }
+  int boardSize() const { return static_cast<int>(board_.size()); }
+  int playersInHand();
   void postAntes();
   void postBlinds();
   /// A player who missed the blinds posts a dead small blind and a live big one.
   void postMissedBlinds(const Person& person);
   void dealHands(int cardsEach);
   void dealBoard(Tessel::AllowedDealType street);
-  /// The players' moves in turn. Throws when one is missing or left over.
+
+  /// A betting round move by move: `askMove` for the player to act, then `makeMove`, until there is none to act.
+  void startBetting();
+  /// Null when the round is over.
+  Player* toAct();
+  void askMove();
+  /// The chips that the move of the player to act takes.
+  std::int64_t chipsFor(const Move& move);
+  bool allows(const Move& move);
+  /// Throws for a move that is not allowed.
+  void makeMove(const Move& move);
+  void endBetting();
+  /// A whole round from a script. Throws when a move is missing or left over.
   void betting(std::initializer_list<Move> moves);
+
   void exchangeCards(std::initializer_list<Exchange> exchanges);
-  /// The cards of an all-in, with each player's chance to win.
+  /// Whether nobody can bet any more and the rest is luck.
+  bool isAllIn();
+  /// The cards of an all-in.
   void showAllIn();
+  /// Each player's chance to win the main pot, by playing out every board.
+  void tellChances();
   void showdown();
-  /// The last player left wins; the user mucks or shows.
+  /// The last player left wins, and mucks or shows.
   void winUncalled(bool show);
 
  private:
@@ -112,16 +145,17 @@ class Table {
     std::vector<Player*> contenders;
   };
 
-  bool isUser(const Player& player) const { return player.person.id == USER.id; }
   bool isDraw() const { return game_.type == AllowedGameType::FIVE_CARD_DRAW; }
   /// Those at the table, beginning behind a seat.
   std::vector<Player*> inOrderAfter(int seat);
   std::vector<Player*> inHandAfter(int seat);
+  std::vector<Player*> ableToBetAfter(int seat);
 
   static void move(std::int64_t& from, std::int64_t& to, std::int64_t amount);
-  std::int64_t chips() const;
-  void checkChips() const;
+  void check() const override;
 
+  Body gameState(int listener);
+  Body tableInfo() const;
   Body playerId(const Player& player) const;
   Body credit(const Player& player, std::int64_t amount) const;
   Body actions(const Player& player, int flags, std::int64_t callValue,
@@ -130,10 +164,8 @@ class Table {
   Body handValue(const Player& player) const;
 
   void postBlind(Player& player, std::int64_t amount, bool dead);
-  void requestMove(const Player& player);
   void waitForMove(Player& player, Move::Hitch hitch);
-  void sendMove(const Player& player, const Move& move, std::int64_t amount);
-  bool makeMove(Player& player, const Move& move);
+  void answer(const Player& player, const Move& move, std::int64_t amount);
   std::int64_t betSize() const;
   bool isCapped() const;
   bool mayRaise(std::int64_t raise) const;
@@ -149,17 +181,18 @@ class Table {
   void showCards(const std::vector<Player*>& players, const std::vector<Player*>& winners);
   void endHand();
 
-  Capture& capture_;
   Game game_;
-  std::vector<Player> players_;
-  Dice dice_{20240308};
+  std::list<Player> players_;
+  Dice dice_;
   Deck deck_{"", dice_};
 
-  int handNumber_ = 118'200;
+  int handNumber_ = 0;
+  bool handRunning_ = false;
   int dealerSeat_ = 0;
   int firstSeat_ = 0;
   int street_ = 0;
   int betsMade_ = 0;
+  std::deque<Player*> toAct_;
   std::int64_t currentBet_ = 0;
   std::int64_t lastRaise_ = 0;
   std::int64_t pot_ = 0;
@@ -168,8 +201,7 @@ class Table {
   std::int64_t house_ = 0;
   Cards board_;
   bool shown_ = false;
-  bool autoPost_ = false;
-  const std::int64_t totalChips_ = chips();
+  std::int64_t totalChips_ = chips();
 };
 
-}  // namespace Samples
+}  // namespace CardRoom

@@ -1,8 +1,8 @@
-#include "CardRoom.h"
+#include "Game.h"
 
 #include <herald/messages/info_objects/PlayerInGameInfo.h>
 
-namespace Samples {
+namespace CardRoom {
 
 namespace {
 
@@ -47,4 +47,4 @@ Body cashier(const Game& game, std::int64_t account) {
   return Body().i64(account).i64(game.minBuyIn()).i64(game.maxBuyIn());
 }
 
-}  // namespace Samples
+}  // namespace CardRoom

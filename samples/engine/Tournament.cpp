@@ -16,7 +16,7 @@
 #include <stdexcept>
 #include <utility>
 
-namespace Samples {
+namespace CardRoom {
 
 using namespace Tessel;
 using Tour = TournamentSummary;
@@ -28,12 +28,13 @@ constexpr std::int64_t BREAK_MS = 180'000;
 constexpr std::int64_t SMALL_BLINDS[] = {10, 15, 25, 50, 75, 100, 150, 200};
 constexpr int FIRST_LEVEL_WITH_ANTE = 5;
 
-constexpr std::int64_t TICKET_VALUE = 2500;
 constexpr std::wstring_view TICKET = L"Spring main event, buy-in €25";
 
-std::int64_t smallBlind(int level) { return SMALL_BLINDS[level - 1]; }
+constexpr int LEVELS = static_cast<int>(std::size(SMALL_BLINDS));
 
-std::wstring_view tableName(int table) { return table % 2 ? L"Spring Table 1" : L"Spring Table 2"; }
+// The last level goes on for ever.
+std::int64_t smallBlind(int level) { return SMALL_BLINDS[std::min(level, LEVELS) - 1]; }
+std::int64_t anteOf(int level) { return level < FIRST_LEVEL_WITH_ANTE ? 0 : smallBlind(level) / 5; }
 
 }  // namespace
 
@@ -43,9 +44,39 @@ Tournament::Entrant& Tournament::entrant(const Person& person) {
   return *found;
 }
 
-const Tournament::Entrant* Tournament::user() const {
-  const auto found = std::ranges::find(entrants_, USER.id, [](const Entrant& entrant) { return entrant.person.id; });
+const Tournament::Entrant* Tournament::find(int player) const {
+  const auto found = std::ranges::find(entrants_, player, [](const Entrant& entrant) { return entrant.person.id; });
   return found == entrants_.end() ? nullptr : &*found;
+}
+
+bool Tournament::hasEntered(int player) const { return find(player) != nullptr; }
+
+int Tournament::tableOf(int player) const {
+  const Entrant* found = find(player);
+  return found == nullptr ? NO_TABLE : found->table;
+}
+
+std::wstring Tournament::tableName(int table) const {
+  return summary_.tableName + (table == firstTable() ? L" 1" : L" 2");
+}
+
+std::vector<int> Tournament::listenersAt(int table) const {
+  std::vector<int> listeners = audience().listeners();
+  std::erase_if(listeners, [&](int listener) { return tableOf(listener) != table; });
+  return listeners;
+}
+
+std::vector<std::pair<Person, std::int64_t>> Tournament::stacks() const {
+  std::vector<std::pair<Person, std::int64_t>> stacks;
+  for (const Entrant& entrant : entrants_)
+    if (entrant.isPlaying()) stacks.emplace_back(entrant.person, entrant.chips);
+  return stacks;
+}
+
+TournamentSummary Tournament::summaryFor(int listener) const {
+  TournamentSummary summary = summary_;
+  if (hasEntered(listener)) summary.registration = PlayerRegistrationStatus::IS_REGISTERED;
+  return summary;
 }
 
 std::vector<Tournament::Entrant*> Tournament::atTable(int table) {
@@ -56,7 +87,7 @@ std::vector<Tournament::Entrant*> Tournament::atTable(int table) {
 }
 
 std::vector<int> Tournament::tables() {
-  std::vector<int> tables = {FIRST_TABLE, SECOND_TABLE};
+  std::vector<int> tables = {firstTable(), secondTable()};
   std::erase_if(tables, [this](int table) { return atTable(table).empty(); });
   return tables;
 }
@@ -89,7 +120,6 @@ void Tournament::enter(const Person& person) {
   ++summary_.entrants;
   ++summary_.players;
   summary_.prizePool += Tour::BUY_IN;
-  if (person.id == USER.id) summary_.registration = PlayerRegistrationStatus::IS_REGISTERED;
   tell<LobbyPlayerList>(Body().i16(1).i32(person.id).text(person.nick).i8(0).i16(0));
 }
 
@@ -98,7 +128,6 @@ void Tournament::withdraw(const Person& person) {
   --summary_.entrants;
   --summary_.players;
   summary_.prizePool -= Tour::BUY_IN;
-  if (person.id == USER.id) summary_.registration = PlayerRegistrationStatus::NOT_REGISTERED;
   tell<LobbyPlayerList>(Body().i16(0).i16(1).i32(person.id));
 }
 
@@ -108,10 +137,10 @@ std::int64_t Tournament::averageChips() const {
   return level_ > 0 ? chips / summary_.players : 0;
 }
 
-// The user's own view of the tournament.
-Body Tournament::userInfo() const {
+// The listener's own view of the tournament.
+Body Tournament::infoFor(int listener) const {
   const std::vector<const Entrant*> ranking = this->ranking();
-  const Entrant* user = this->user();
+  const Entrant* user = find(listener);
   const bool isPlaying = user && user->isPlaying();
   StatusInTour status = StatusInTour::NOT_PLAYING;
   int position = -1;
@@ -131,12 +160,16 @@ Body Tournament::userInfo() const {
 }
 
 void Tournament::tellLobby() {
-  tell<SpecificTourSummary>(Body().fields(Samples::summary(summary_)).fields(userInfo()));
+  for (const int listener : audience().listeners()) tellLobby(listener);
+}
+
+void Tournament::tellLobby(int listener) {
+  tellOne<SpecificTourSummary>(listener, Body().fields(summary(summaryFor(listener))).fields(infoFor(listener)));
   std::vector<Body> players;
   for (const Entrant& entrant : entrants_)
     players.push_back(Body().i32(entrant.person.id).text(entrant.person.nick).i8(0));
-  tell<LobbyPlayerList>(Body().list<std::int16_t>(players).i16(0));
-  tellTables();
+  tellOne<LobbyPlayerList>(listener, Body().list<std::int16_t>(players).i16(0));
+  tellTables({listener}, {});
 }
 
 Body Tournament::ranked(const Entrant& entrant) const {
@@ -151,13 +184,19 @@ Body Tournament::rankedList(const std::vector<const Entrant*>& entrants) const {
 }
 
 void Tournament::tellProgress() {
-  tell<SpecificTourSummaryUpdate>(Body().fields(summaryUpdate(summary_)).fields(userInfo()));
-  if (user() && user()->isPlaying()) tell<TourUserRanking>(ranked(*user()));
+  for (const int listener : audience().listeners()) {
+    tellOne<SpecificTourSummaryUpdate>(listener,
+                                       Body().fields(summaryUpdate(summaryFor(listener))).fields(infoFor(listener)));
+    const Entrant* entrant = find(listener);
+    if (entrant != nullptr && entrant->isPlaying()) tellOne<TourUserRanking>(listener, ranked(*entrant));
+  }
 }
 
 void Tournament::tellRankings() { tell<TourPlayerRankingListInfo>(rankedList(ranking())); }
 
-void Tournament::tellTables() {
+void Tournament::tellTables() { tellTables(audience().listeners(), std::exchange(closedTables_, {})); }
+
+void Tournament::tellTables(const std::vector<int>& listeners, const std::vector<int>& closed) {
   std::vector<Body> infos;
   std::vector<Body> rankings;
   for (const int table : tables()) {
@@ -168,29 +207,31 @@ void Tournament::tellTables() {
     info.money(chipsOf(entrants.back()->chips)).money(chipsOf(entrants.front()->chips));
     rankings.push_back(Body().i32(table).fields(rankedList(entrants)));
   }
-  tell<LobbyTableList>(
-      Body().list<std::int16_t>(infos).list<std::int16_t, std::int32_t>(std::exchange(closedTables_, {})));
-  for (const Body& ranking : rankings) tell<LobbyTablePlayerList>(ranking);
+  const Body list = Body().list<std::int16_t>(infos).list<std::int16_t, std::int32_t>(closed);
+  tellSome<LobbyTableList>(listeners, [&](int) { return list; });
+  for (const Body& ranking : rankings) tellSome<LobbyTablePlayerList>(listeners, [&](int) { return ranking; });
 }
 
-void Tournament::inviteUser() {
+void Tournament::invite(const Entrant& entrant) {
   constexpr int NODE = 22;
-  const int table = user()->table;
-  tell<LobbyTourInvitationMsg>(Body().i32(summary_.id).i32(table).i16(NODE).i32(Tour::PORT).i16(TOURNAMENT_CHIPS));
-  capture_.client(TournamentTableReqMsg(USER.id, summary_.id, table));
+  const int player = entrant.person.id;
+  tellOne<LobbyTourInvitationMsg>(
+      player, Body().i32(summary_.id).i32(entrant.table).i16(NODE).i32(Tour::PORT).i16(TOURNAMENT_CHIPS));
+  audience().answered(entrant.person, TournamentTableReqMsg(player, summary_.id, entrant.table));
 }
 
 void Tournament::start() {
+  const bool isOneTable = entrants_.size() <= PLAYERS_PER_TABLE;
   for (std::size_t i = 0; i < entrants_.size(); ++i) {
-    entrants_[i].table = i % 2 == 0 ? FIRST_TABLE : SECOND_TABLE;
+    entrants_[i].table = isOneTable || i % 2 == 0 ? firstTable() : secondTable();
     entrants_[i].chips = Tour::STARTING_CHIPS;
   }
   level_ = 1;
   summary_.status = AllowedTournamentStatus::RUNNING;
-  summary_.startTime = capture_.now();
+  summary_.startTime = audience().now();
   levelEnd_ = summary_.startTime + Tour::LEVEL_MS;
   breakStart_ = summary_.startTime + Tour::REBUY_LEVELS * Tour::LEVEL_MS;
-  inviteUser();
+  for (const Entrant& entrant : entrants_) invite(entrant);
   notify(AllowedTournamentNotification::STARTED);
   tellTables();
   tellLevel();
@@ -198,7 +239,7 @@ void Tournament::start() {
 
 Body Tournament::level(int number) {
   const std::int64_t small = smallBlind(number);
-  const std::int64_t ante = number < FIRST_LEVEL_WITH_ANTE ? 0 : small / 5;
+  const std::int64_t ante = anteOf(number);
   return Body()
       .i16(number)
       .i64(Tour::LEVEL_MS)
@@ -209,7 +250,8 @@ Body Tournament::level(int number) {
 }
 
 void Tournament::tellLevel() {
-  const std::int64_t untilBreak = level_ > Tour::REBUY_LEVELS ? -1 : breakStart_ - capture_.now();
+  const bool hasBreak = (summary_.attributes & Tour::REBUYS) != 0 && level_ <= Tour::REBUY_LEVELS;
+  const std::int64_t untilBreak = hasBreak ? breakStart_ - audience().now() : -1;
   tell<TourLevelInfoMsg>(level(level_));
   tell<TourNextLevelInfoMsg>(Body().fields(level(level_)).fields(level(level_ + 1)));
   tell<TourBreakNotification>(Body().i64(untilBreak).i64(untilBreak < 0 ? -1 : BREAK_MS));
@@ -217,15 +259,32 @@ void Tournament::tellLevel() {
 
 void Tournament::nextLevel() {
   waitForLevelEnd();
+  raiseLevel();
+}
+
+std::int64_t Tournament::bigBlind() const { return 2 * smallBlind(level_); }
+
+std::int64_t Tournament::ante() const { return anteOf(level_); }
+
+void Tournament::settle(const std::vector<std::pair<int, std::int64_t>>& chipsOfPlayers) {
+  for (const auto& [player, chips] : chipsOfPlayers) {
+    const auto entrant = std::ranges::find(entrants_, player, [](const Entrant& one) { return one.person.id; });
+    if (entrant == entrants_.end()) throw std::logic_error("a player who has not entered");
+    entrant->chips = chips;
+  }
+  check();
+}
+
+void Tournament::raiseLevel() {
   ++level_;
   levelEnd_ += Tour::LEVEL_MS;
   tellLevel();
 }
 
 void Tournament::waitForLevelEnd() {
-  const std::int64_t wait = levelEnd_ - capture_.now();
+  const std::int64_t wait = levelEnd_ - audience().now();
   if (wait < 0) throw std::logic_error("the level has ended before");
-  capture_.pause(wait);
+  audience().pause(wait);
 }
 
 void Tournament::win(Entrant& winner, Entrant& loser, std::int64_t amount) {
@@ -237,7 +296,7 @@ void Tournament::win(Entrant& winner, Entrant& loser, std::int64_t amount) {
 
 void Tournament::playHands(int count) {
   for (int hand = 0; hand < count; ++hand) {
-    capture_.pause(HAND_MS);
+    audience().pause(HAND_MS);
     for (const int table : tables()) {
       const std::vector<Entrant*> entrants = atTable(table);
       const int players = static_cast<int>(entrants.size());
@@ -254,7 +313,7 @@ void Tournament::playHands(int count) {
 void Tournament::loseAll(const Person& person) {
   Entrant& loser = entrant(person);
   while (loser.chips > 0) {
-    capture_.pause(HAND_MS);
+    audience().pause(HAND_MS);
     std::vector<Entrant*> others = atTable(loser.table);
     std::erase(others, &loser);
     win(*std::ranges::max(others, {}, &Entrant::chips), loser, loser.chips);
@@ -270,12 +329,12 @@ void Tournament::takeBreak() {
 }
 
 void Tournament::endBreak() {
-  const std::int64_t wait = breakStart_ + BREAK_MS - capture_.now();
+  const std::int64_t wait = breakStart_ + BREAK_MS - audience().now();
   if (wait < 0) throw std::logic_error("the break has ended before");
-  capture_.pause(wait);
+  audience().pause(wait);
   summary_.status = AllowedTournamentStatus::RUNNING;
   tell<TourBreakEnd>();
-  levelEnd_ = capture_.now();
+  levelEnd_ = audience().now();
 }
 
 void Tournament::notify(AllowedTournamentNotification event) { tell<TourNotification>(Body().i8(event)); }
@@ -286,9 +345,12 @@ void Tournament::synchronise(AllowedTournamentSynchedEvent event) { tell<TourSyn
 
 void Tournament::tellRebuyPeriod(bool isAddon) {
   const std::int64_t end = breakStart_ + (isAddon ? BREAK_MS : 0);
-  const std::int64_t left = std::max(end - capture_.now(), std::int64_t{-1});
-  const int rebuysLeft = isAddon ? !user()->hasAddon : Tour::REBUYS_EACH - user()->rebuys;
-  tell<TournamentRebuyNotificationMsg>(Body().i64(left).flag(isAddon).i32(rebuysLeft));
+  const std::int64_t left = std::max(end - audience().now(), std::int64_t{-1});
+  tellEach<TournamentRebuyNotificationMsg>([&](int listener) {
+    const Entrant* entrant = find(listener);
+    const int rebuysLeft = entrant == nullptr ? 0 : isAddon ? !entrant->hasAddon : Tour::REBUYS_EACH - entrant->rebuys;
+    return Body().i64(left).flag(isAddon).i32(rebuysLeft);
+  });
 }
 
 void Tournament::offer(bool isAddon) {
@@ -323,26 +385,33 @@ void Tournament::decline(const Person& person, bool isAddon) {
   tell<TournamentPlayerNoRebuyNotification>(Body().i32(person.id).i8(isAddon ? 1 : 0));
 }
 
-// The last three win; the winner's share begins with a ticket.
-void Tournament::tellKnockout(const Entrant& entrant) {
+// The last three win; the winner's share may begin with a ticket.
+std::int64_t Tournament::prize(int position) const {
   const std::int64_t third = summary_.prizePool * 20 / 100;
   const std::int64_t second = summary_.prizePool * 30 / 100;
-  const std::int64_t prizes[] = {summary_.prizePool - second - third - TICKET_VALUE, second, third};
+  const std::int64_t prizes[] = {summary_.prizePool - second - third, second, third};
+  return position >= 1 && position <= Tour::PAID_PLACES ? prizes[position - 1] : 0;
+}
+
+std::int64_t Tournament::prizeOf(int player) const {
+  const Entrant* entrant = find(player);
+  return entrant == nullptr ? 0 : prize(entrant->position);
+}
+
+void Tournament::tellKnockout(const Entrant& entrant) {
+  const bool winsTicket = entrant.position == 1 && summary_.ticketValue > 0;
+  const std::int64_t prize = this->prize(entrant.position);
+  prizesPaid_ += prize;
   Body body;
   body.i32(entrant.person.id).text(entrant.person.nick).i32(entrant.position);
-  if (entrant.position <= Tour::PAID_PLACES) {
-    const std::int64_t prize = prizes[entrant.position - 1];
-    prizesPaid_ += prize;
-    body.i16(1).money(euros(prize));
-  } else {
+  if (prize > 0)
+    body.i16(1).money(euros(prize - (winsTicket ? summary_.ticketValue : 0)));
+  else
     body.i16(0);
-  }
-  if (entrant.position == 1) {
-    prizesPaid_ += TICKET_VALUE;
+  if (winsTicket)
     body.i16(1).text(TICKET);
-  } else {
+  else
     body.i16(0);
-  }
   tell<TourKnockoutInfo>(body);
 }
 
@@ -357,16 +426,17 @@ void Tournament::knockOut(const Person& person) {
 
 void Tournament::moveTo(int table, Entrant& moved) {
   const int from = moved.table;
-  const int userTable = user()->table;
-  if (from == userTable) tell<TourPlayerLeave>(Body().i32(moved.person.id).text(tableName(table)));
+  const std::vector<int> left = listenersAt(from);
+  const std::vector<int> joined = listenersAt(table);
+  tellSome<TourPlayerLeave>(left, [&](int) { return Body().i32(moved.person.id).text(tableName(table)); });
   moved.table = table;
-  if (table == userTable) tell<TourPlayerArrive>(Body().text(moved.person.nick).text(tableName(from)));
-  if (&moved == user()) inviteUser();
+  tellSome<TourPlayerArrive>(joined, [&](int) { return Body().text(moved.person.nick).text(tableName(from)); });
+  invite(moved);
 }
 
 void Tournament::balanceTables() {
-  std::vector<Entrant*> fuller = atTable(FIRST_TABLE);
-  std::vector<Entrant*> emptier = atTable(SECOND_TABLE);
+  std::vector<Entrant*> fuller = atTable(firstTable());
+  std::vector<Entrant*> emptier = atTable(secondTable());
   if (fuller.size() < emptier.size()) std::swap(fuller, emptier);
   if (emptier.empty()) return;
   const int keptTable = fuller.front()->table;
@@ -375,8 +445,8 @@ void Tournament::balanceTables() {
     if (fuller.size() > emptier.size() + 1) moveTo(otherTable, *fuller.back());
     return;
   }
-  const bool isUserTable = user()->table == otherTable;
-  if (isUserTable) notifyTable(AllowedTableNotificationEvent::BREAKING_UP);
+  tellSome<TableNotification>(listenersAt(otherTable),
+                              [](int) { return Body().i8(AllowedTableNotificationEvent::BREAKING_UP); });
   for (Entrant* entrant : emptier) moveTo(keptTable, *entrant);
   closedTables_.push_back(otherTable);
   notify(AllowedTournamentNotification::FINAL_TABLE);
@@ -396,4 +466,4 @@ void Tournament::finish() {
   tellProgress();
 }
 
-}  // namespace Samples
+}  // namespace CardRoom

@@ -3,11 +3,11 @@
 #include <herald/platform/tableau/TournamentStatus.h>
 
 #include <cstdint>
-#include <string_view>
+#include <string>
 
-#include "CardRoom.h"
+#include "Game.h"
 
-namespace Samples {
+namespace CardRoom {
 
 using Tessel::AllowedTournamentStatus;
 using Tessel::PlayerRegistrationStatus;
@@ -31,8 +31,10 @@ struct TournamentSummary {
 
   int id = -1;
   int attributes = 0;
-  std::wstring_view name;
-  std::wstring_view description;
+  std::wstring name;
+  std::wstring description;
+  /// What stands before the numbers of its tables.
+  std::wstring tableName = L"Table";
   AllowedTournamentStatus status = AllowedTournamentStatus::ANNOUNCED;
   int maxEntrants = 10;
   int entrants = 0;
@@ -41,6 +43,8 @@ struct TournamentSummary {
   std::int64_t startTime = -1;
   std::int64_t registrationTime = 0;
   int owner = -1;
+  /// The part of the first prize that is a ticket.
+  std::int64_t ticketValue = 0;
   int playersInMainEvent = 0;
   PlayerRegistrationStatus registration = PlayerRegistrationStatus::NOT_REGISTERED;
 };
@@ -55,4 +59,4 @@ Body summary(const TournamentSummary& tournament);
 /// Only what changes.
 Body summaryUpdate(const TournamentSummary& tournament);
 
-}  // namespace Samples
+}  // namespace CardRoom

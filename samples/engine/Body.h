@@ -10,7 +10,7 @@
 #include <utility>
 #include <vector>
 
-namespace Samples {
+namespace CardRoom {
 
 /// The body of a server's message, composed field by field in wire order. A number that does not fit its field throws.
 class Body {
@@ -74,4 +74,4 @@ class Body {
   Tessel::ByteStream bytes_;
 };
 
-}  // namespace Samples
+}  // namespace CardRoom

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-namespace Samples {
+namespace CardRoom {
 
 /// Numbers that look random and are the same at every run, on every machine.
 class Dice {
@@ -54,4 +54,4 @@ struct BestHand {
 /// The best five of five to seven cards.
 BestHand bestHand(std::span<const Card> cards);
 
-}  // namespace Samples
+}  // namespace CardRoom

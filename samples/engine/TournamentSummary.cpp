@@ -2,7 +2,7 @@
 
 #include <herald/platform/tableau/PrizeStructureType.h>
 
-namespace Samples {
+namespace CardRoom {
 
 namespace {
 
@@ -50,4 +50,4 @@ Body summaryUpdate(const Tour& tournament) {
   return body.i8(tournament.registration);
 }
 
-}  // namespace Samples
+}  // namespace CardRoom

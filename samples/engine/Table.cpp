@@ -14,7 +14,7 @@
 #include <stdexcept>
 #include <utility>
 
-namespace Samples {
+namespace CardRoom {
 
 using namespace Tessel;
 
@@ -62,13 +62,18 @@ BestHand bestHandOf(const Player& player, const Cards& board) {
 
 }  // namespace
 
-Table::Table(Capture& capture, const Game& game, std::vector<Player> players)
-    : capture_(capture), game_(game), players_(std::move(players)) {}
+Table::Table(Audience& audience, const Game& game, std::list<Player> players, std::uint32_t seed)
+    : Teller(audience), game_(game), players_(std::move(players)), dice_(seed) {}
 
-Player& Table::player(const Person& person) {
-  const auto found = std::ranges::find(players_, person.id, [](const Player& player) { return player.person.id; });
-  if (found == players_.end()) throw std::logic_error("a player who is not here");
-  return *found;
+const Player* Table::find(int id) const {
+  const auto found = std::ranges::find(players_, id, [](const Player& player) { return player.person.id; });
+  return found == players_.end() ? nullptr : &*found;
+}
+
+Player& Table::player(int id) {
+  const Player* found = find(id);
+  if (found == nullptr) throw std::logic_error("a player who is not here");
+  return const_cast<Player&>(*found);
 }
 
 std::vector<Player*> Table::inOrderAfter(int seat) {
@@ -86,6 +91,19 @@ std::vector<Player*> Table::inHandAfter(int seat) {
   return players;
 }
 
+std::vector<Player*> Table::ableToBetAfter(int seat) {
+  std::vector<Player*> players = inHandAfter(seat);
+  std::erase_if(players, [](const Player* player) { return player->stack == 0; });
+  return players;
+}
+
+int Table::playersReady() const {
+  return static_cast<int>(
+      std::ranges::count_if(players_, [](const Player& player) { return player.sittingIn && player.stack > 0; }));
+}
+
+int Table::playersInHand() { return static_cast<int>(inHandAfter(dealerSeat_).size()); }
+
 void Table::move(std::int64_t& from, std::int64_t& to, std::int64_t amount) {
   if (amount < 0 || amount > from) throw std::logic_error("chips that are not there");
   from -= amount;
@@ -97,7 +115,7 @@ std::int64_t Table::chips() const {
                          [](std::int64_t sum, const Player& p) { return sum + p.account + p.stack + p.bet; });
 }
 
-void Table::checkChips() const {
+void Table::check() const {
   if (chips() != totalChips_) throw std::logic_error("chips were made or lost");
 }
 
@@ -128,6 +146,12 @@ Body Table::handValue(const Player& player) const {
 }
 
 void Table::tellGameState() {
+  tellEach<GameStateInfoMsg>([this](int listener) { return gameState(listener); });
+}
+
+void Table::tellGameState(int listener) { tellOne<GameStateInfoMsg>(listener, gameState(listener)); }
+
+Body Table::gameState(int listener) {
   std::vector<Body> players;
   std::vector<Body> cards;
   for (const Card& card : board_) cards.push_back(tableCard(card));
@@ -136,16 +160,19 @@ void Table::tellGameState() {
     state.i32(player->seat).fields(playerInGame(player->person, moneyOf(*player), game_.id));
     state.i64(player->bet).flag(player->sittingIn).flag(player->slow);
     for (const Card& card : player->cards)
-      if (player->inHand) cards.push_back(cardOf(player->person.id, player->seat, card, isUser(*player)));
+      if (player->inHand) cards.push_back(cardOf(player->person.id, player->seat, card, player->person.id == listener));
   }
   game_.players = static_cast<int>(players.size());
   Body body;
   body.fields(pokerRules(game_)).i32(dealerSeat_).i64(pot_).i32(street_).list<std::int16_t>(players);
-  body.list<std::int32_t>(cards).flag(false).i32(handNumber_).fields(pokerGame(game_)).i64(rake_);
-  tell<GameStateInfoMsg>(body);
+  return body.list<std::int32_t>(cards).flag(false).i32(handNumber_).fields(pokerGame(game_)).i64(rake_);
 }
 
-void Table::tellTableInfo() {
+void Table::tellTableInfo() { tell<ClientTableInfo>(tableInfo()); }
+
+void Table::tellTableInfo(int listener) { tellOne<ClientTableInfo>(listener, tableInfo()); }
+
+Body Table::tableInfo() const {
   const std::int64_t blinds[] = {game_.smallBlind(), game_.bigBlind};
   std::vector<Body> rounds;
   for (const bool isEarly : isDraw() ? std::vector{true, false} : std::vector{true, true, false, false}) {
@@ -158,7 +185,33 @@ void Table::tellTableInfo() {
   body.text(game_.name).i8(game_.type).i16(game_.unit).i64(game_.ante).flag(false).flag(true).i32(game_.maxPlayers);
   body.list<std::int32_t, std::int64_t>(blinds).i64(game_.maxRake()).i32(SECONDS_TO_ACT).text(nameOf(game_.type));
   body.i64(game_.minBuyIn()).i64(game_.maxBuyIn()).i64(game_.smallBet()).i64(game_.bigBet());
-  tell<ClientTableInfo>(body.list<std::int32_t>(rounds));
+  return body.list<std::int32_t>(rounds);
+}
+
+void Table::enter(const Person& person, std::int64_t account) {
+  players_.push_back({.person = person, .account = account});
+  totalChips_ += account;
+  tell<PlayerJoined>(playerInGame(person, {0, game_.unit}, game_.id));
+}
+
+std::int64_t Table::leave(const Person& person) {
+  const Player& leaving = player(person);
+  if (leaving.inHand) throw std::logic_error("a player who is in a hand left");
+  if (leaving.seat != Player::NO_SEAT) standUp(person);
+  tell<PlayerLeft>(Body().text(person.nick).i32(game_.id));
+  tell<PlayerIGLeft>(Body().i32(person.id));
+  const std::int64_t account = leaving.account;
+  totalChips_ -= account;
+  players_.remove_if([&](const Player& other) { return other.person.id == person.id; });
+  return account;
+}
+
+void Table::setSlow(Player& player, bool slow) {
+  if (std::exchange(player.slow, slow) == slow) return;
+  if (slow)
+    tell<ClientSlowPlayer>(Body().i32(player.person.id).i8(0));
+  else
+    tell<ClientSlowPlayerBack>(Body().i32(player.person.id));
 }
 
 void Table::sitDown(const Person& person, int seat) {
@@ -201,13 +254,18 @@ void Table::changeGame(AllowedGameType type, AllowedLimitType limit) {
   tellGameState();
 }
 
+void Table::changeBlinds(std::int64_t bigBlind, std::int64_t ante) {
+  game_.bigBlind = bigBlind;
+  game_.ante = ante;
+}
+
 void Table::startHand(std::string_view firstCards) {
   board_.clear();
   deck_ = Deck(firstCards, dice_);
   street_ = betsMade_ = 0;
   shown_ = false;
   for (Player& player : players_) {
-    player.inHand = player.sittingIn && player.stack > 0;
+    player.inHand = player.seat != Player::NO_SEAT && player.sittingIn && player.stack > 0;
     player.paid = 0;
     player.cards.clear();
     player.best = {};
@@ -220,7 +278,8 @@ void Table::startHand(std::string_view firstCards) {
   for (int seat = 0; seat < game_.maxPlayers; ++seat)
     body.flag(
         std::ranges::any_of(players_, [&](const Player& player) { return player.inHand && player.seat == seat; }));
-  capture_.pause(3000);
+  handRunning_ = true;
+  audience().pause(3000);
   tell<ClientNewRound>(body);
   tell<ClientSetDealerToken>(playerId(dealer));
 }
@@ -232,18 +291,24 @@ void Table::postAntes() {
   for (const Player* player : players) requests.push_back(actions(*player, CHECK_CALL, game_.ante));
   tell<ClientBetAnteReq>(betRequest(players, requests));
   for (Player* player : players) {
-    if (isUser(*player) && !autoPost_) capture_.client(ServerBet(player->person.id, player->seat, game_.ante));
-    move(player->stack, player->bet, game_.ante);
-    tell<ClientBetDone>(credit(*player, game_.ante));
+    const std::int64_t ante = std::min(game_.ante, player->stack);
+    if (!player->autoPost) audience().answered(player->person, ServerBet(player->person.id, player->seat, ante));
+    move(player->stack, player->bet, ante);
+    tell<ClientBetDone>(credit(*player, ante));
   }
   collectBets();
 }
 
 void Table::postBlind(Player& player, std::int64_t amount, bool dead) {
+  amount = std::min(amount, player.stack);
   tell<ClientBetBlindReq>(betRequest({&player}, {actions(player, FOLD_FLAG | CHECK_CALL, amount)}));
-  if (isUser(player) && !autoPost_) capture_.client(ServerBet(player.person.id, player.seat, amount));
+  if (!player.autoPost) audience().answered(player.person, ServerBet(player.person.id, player.seat, amount));
   move(player.stack, dead ? pot_ : player.bet, amount);
-  if (!dead) return tell<ClientBetDone>(credit(player, amount));
+  if (!dead) {
+    tell<ClientBetDone>(credit(player, amount));
+    if (player.stack == 0) tell<ClientAllInDone>(playerId(player));
+    return;
+  }
   dead_ += amount;
   tell<ClientBetDeadDone>(credit(player, amount));
 }
@@ -262,14 +327,26 @@ void Table::postMissedBlinds(const Person& person) {
 }
 
 void Table::dealTo(const std::vector<Player*>& players, int cardsEach, AllowedDealType type) {
-  std::vector<Body> cards;
+  struct Dealt {
+    const Player* player;
+    Card card;
+  };
+  std::vector<Dealt> dealt;
   for (int round = 0; round < cardsEach; ++round) {
     for (Player* player : players) {
       player->cards.push_back(deck_.deal());
-      cards.push_back(cardOf(player->person.id, player->seat, player->cards.back(), isUser(*player)));
+      dealt.push_back({player, player->cards.back()});
     }
   }
-  tell<ClientCards>(Body().i8(type).list<std::int32_t>(cards).flag(false));
+  // Each listener sees the own cards.
+  tellEach<ClientCards>([&](int listener) {
+    Body body;
+    body.i8(type).list<std::int32_t>(dealt, [&](Body& cards, const Dealt& one) {
+      const int id = one.player->person.id;
+      cards.fields(cardOf(id, one.player->seat, one.card, id == listener));
+    });
+    return body.flag(false);
+  });
 }
 
 void Table::dealHands(int cardsEach) { dealTo(inHandAfter(dealerSeat_), cardsEach, AllowedDealType::HOLE_CARDS); }
@@ -302,7 +379,24 @@ bool Table::mayRaise(std::int64_t raise) const {
   return game_.limit == AllowedLimitType::LIMIT ? !isCapped() && raise == betSize() : raise >= betSize();
 }
 
-void Table::requestMove(const Player& player) {
+void Table::startBetting() {
+  currentBet_ = std::ranges::max(players_, {}, &Player::bet).bet;
+  if (street_ == 0) currentBet_ = std::max(currentBet_, game_.bigBlind);
+  lastRaise_ = game_.bigBlind;
+  const std::vector<Player*> able = ableToBetAfter(firstSeat_);
+  toAct_.assign(able.begin(), able.end());
+}
+
+// A player whom nobody can raise, and who has called, is not asked.
+Player* Table::toAct() {
+  const bool isAlone = ableToBetAfter(dealerSeat_).size() == 1;
+  if (toAct_.empty() || playersInHand() == 1) return nullptr;
+  Player* next = toAct_.front();
+  return isAlone && next->bet >= currentBet_ ? nullptr : next;
+}
+
+void Table::askMove() {
+  Player& player = *toAct();
   const std::int64_t toCall = std::min(currentBet_ - player.bet, player.stack);
   int flags = FOLD_FLAG | CHECK_CALL;
   std::vector<std::int64_t> bets;
@@ -311,65 +405,78 @@ void Table::requestMove(const Player& player) {
     bets.push_back(std::min(toCall + betSize(), player.stack));
     if (game_.limit == AllowedLimitType::NO_LIMIT) bets.push_back(player.stack);
   }
-  std::vector<Body> requests = {actions(player, flags, toCall, bets)};
-  if (!isUser(player) && user().inHand && user().stack > 0)
-    requests.push_back(actions(user(), CHECK_FOLD | CALL_ANY | BET_RAISE_ANY, currentBet_ - user().bet));
-  tell<ClientBetReq>(betRequest({&this->player(player.person)}, requests));
+  const Body request = actions(player, flags, toCall, bets);
+  // The others may choose beforehand.
+  tellEach<ClientBetReq>([&](int listener) {
+    std::vector<Body> requests = {request};
+    const Player* other = find(listener);
+    if (other != nullptr && other != &player && other->inHand && other->stack > 0)
+      requests.push_back(actions(*other, CHECK_FOLD | CALL_ANY | BET_RAISE_ANY, currentBet_ - other->bet));
+    return betRequest({&player}, requests);
+  });
 }
 
-void Table::sendMove(const Player& player, const Move& move, std::int64_t amount) {
+void Table::answer(const Player& player, const Move& move, std::int64_t amount) {
   const int id = player.person.id;
   const int seat = player.seat;
+  const auto send = [&](const ServerMessage& request) { audience().answered(player.person, request); };
   if (move.hitch == Move::PREPARED)
-    return capture_.client(
-        ServerInTurnAction(id, seat, street_, static_cast<InTurnAction::InTurnActionType>(move.kind), amount));
+    return send(ServerInTurnAction(id, seat, street_, static_cast<InTurnAction::InTurnActionType>(move.kind), amount));
   switch (move.kind) {
     case Move::FOLD:
-      return capture_.client(ServerFold());
+      return send(ServerFold());
     case Move::CHECK_OR_CALL:
-      return capture_.client(ServerCheckCall(id, seat, amount));
+      return send(ServerCheckCall(id, seat, amount));
     case Move::RAISE:
-      return capture_.client(ServerBet(id, seat, amount));
+      return send(ServerBet(id, seat, amount));
     case Move::ALL_IN:
-      return capture_.client(ServerAllIn(id, seat, amount));
+      return send(ServerAllIn(id, seat, amount));
   }
 }
 
 void Table::waitForMove(Player& player, Move::Hitch hitch) {
-  capture_.pause(1400);
-  player.slow = hitch == Move::SLOW;
-  if (player.slow) {
-    tell<ClientSlowPlayer>(Body().i32(player.person.id).i8(0));
-    capture_.pause(5000);
+  audience().pause(1400);
+  if (hitch == Move::SLOW) {
+    setSlow(player, true);
+    audience().pause(5000);
   }
   if (hitch != Move::HURRIED && hitch != Move::TIMED_OUT) return;
-  capture_.pause(12'000);
+  audience().pause(12'000);
   tell<ClientHurryUp>(playerId(player));
-  if (isUser(player)) capture_.client(ServerHurryAck());
+  audience().answered(player.person, ServerHurryAck());
   if (hitch == Move::HURRIED) return;
-  capture_.pause(8000);
+  audience().pause(8000);
   tell<ClientPlayerTimeout>(Body().i32(player.person.id));
 }
 
-// True for a raise.
-bool Table::makeMove(Player& player, const Move& move) {
+std::int64_t Table::chipsFor(const Move& move) {
+  const Player& player = *toAct();
   const std::int64_t toCall = std::min(currentBet_ - player.bet, player.stack);
   const std::int64_t amount[] = {0, toCall, move.raiseTo - player.bet, player.stack};
-  const std::int64_t chips = amount[move.kind];
-  const std::int64_t raise = player.bet + chips - currentBet_;
-  const bool isAllIn = chips == player.stack;
-  if (raise > 0 && !isAllIn && !mayRaise(raise)) throw std::logic_error("no raise of that size");
+  return amount[move.kind];
+}
 
-  requestMove(player);
-  waitForMove(player, move.hitch);
-  if (isUser(player) && move.hitch != Move::TIMED_OUT) sendMove(player, move, chips);
-  if (std::exchange(player.slow, false)) tell<ClientSlowPlayerBack>(Body().i32(player.person.id));
+bool Table::allows(const Move& move) {
+  const Player& player = *toAct();
+  const std::int64_t chips = chipsFor(move);
+  const std::int64_t raise = player.bet + chips - currentBet_;
+  if (move.kind == Move::RAISE && raise <= 0) return false;
+  return chips <= player.stack && (raise <= 0 || chips == player.stack || mayRaise(raise));
+}
+
+void Table::makeMove(const Move& move) {
+  if (!allows(move)) throw std::logic_error("no raise of that size");
+  Player& player = *toAct();
+  const std::int64_t chips = chipsFor(move);
+  const std::int64_t raise = player.bet + chips - currentBet_;
+  toAct_.pop_front();
+  setSlow(player, false);
 
   if (move.kind == Move::FOLD) {
     player.inHand = false;
-    return tell<ClientFoldDone>(playerId(player)), false;
+    return tell<ClientFoldDone>(playerId(player));
   }
-  if (chips == 0) return tell<ClientCheckDone>(playerId(player)), false;
+  if (chips == 0) return tell<ClientCheckDone>(playerId(player));
   Table::move(player.stack, player.bet, chips);
   if (raise > 0) {
     tell<ClientBetDone>(credit(player, chips));
@@ -379,32 +486,35 @@ bool Table::makeMove(Player& player, const Move& move) {
   } else {
     tell<ClientCallDone>(credit(player, chips));
   }
-  if (isAllIn) tell<ClientAllInDone>(playerId(player));
-  if (raise > 0 && isCapped()) tell<ClientBettingCapped>();
-  return raise > 0;
+  if (player.stack == 0) tell<ClientAllInDone>(playerId(player));
+  if (raise <= 0) return;
+  if (isCapped()) tell<ClientBettingCapped>();
+  const std::vector<Player*> able = ableToBetAfter(player.seat);
+  toAct_.assign(able.begin(), able.end());
+  std::erase(toAct_, &player);
 }
 
-void Table::betting(std::initializer_list<Move> moves) {
-  currentBet_ = std::ranges::max(players_, {}, &Player::bet).bet;
-  lastRaise_ = game_.bigBlind;
-  auto next = moves.begin();
-  const auto ableAfter = [this](int seat) {
-    std::vector<Player*> players = inHandAfter(seat);
-    std::erase_if(players, [](const Player* player) { return player->stack == 0; });
-    return std::deque<Player*>(players.begin(), players.end());
-  };
-  for (std::deque<Player*> toAct = ableAfter(firstSeat_); !toAct.empty() && inHandAfter(dealerSeat_).size() > 1;) {
-    if (next == moves.end()) throw std::logic_error("a move is missing");
-    Player& player = *toAct.front();
-    toAct.pop_front();
-    if (!makeMove(player, *next++)) continue;
-    toAct = ableAfter(player.seat);
-    std::erase(toAct, &player);
-  }
-  if (next != moves.end()) throw std::logic_error("a move is left over");
+void Table::endBetting() {
+  toAct_.clear();
   returnUncalledBet();
   collectBets();
 }
+
+void Table::betting(std::initializer_list<Move> moves) {
+  startBetting();
+  for (const Move& move : moves) {
+    Player* player = toAct();
+    if (player == nullptr) throw std::logic_error("a move is left over");
+    askMove();
+    waitForMove(*player, move.hitch);
+    if (move.hitch != Move::TIMED_OUT) answer(*player, move, chipsFor(move));
+    makeMove(move);
+  }
+  if (toAct() != nullptr) throw std::logic_error("a move is missing");
+  endBetting();
+}
+
+bool Table::isAllIn() { return playersInHand() > 1 && ableToBetAfter(dealerSeat_).size() <= 1; }
 
 Body Table::wonPot(AllowedPotType type, const Player& player, std::int64_t amount) const {
   return Body().i8(type).fields(credit(player, amount)).fields(handValue(player));
@@ -440,15 +550,13 @@ void Table::exchangeCards(std::initializer_list<Exchange> exchanges) {
   auto exchange = exchanges.begin();
   for (Player* player : players) {
     const auto& [kind, places] = *exchange++;
-    if (isUser(*player)) tell<ClientCardsSelectable>();
+    tellOne<ClientCardsSelectable>(player->person.id);
     tell<ClientChangeCards>(Body().i8(player->seat).i8(SECONDS_TO_ACT).i8(SECONDS_TO_ACT));
-    capture_.pause(kind == Exchange::AUTOMATIC ? SECONDS_TO_ACT * 1000 : 2500);
-    if (isUser(*player)) {
-      DiscardCardsInfo info;
-      info.setSeat(player->seat);
-      info.setDiscardedCards(TsArray<int>(places));
-      capture_.client(ServerDiscardCards(info));
-    }
+    audience().pause(kind == Exchange::AUTOMATIC ? SECONDS_TO_ACT * 1000 : 2500);
+    DiscardCardsInfo info;
+    info.setSeat(player->seat);
+    info.setDiscardedCards(TsArray<int>(places));
+    audience().answered(player->person, ServerDiscardCards(info));
     std::for_each(places.rbegin(), places.rend(),
                   [&](int place) { player->cards.erase(player->cards.begin() + place); });
     tell<ClientDiscardCards>(Body().i8(kind).i8(player->seat).list<std::int8_t, std::int8_t>(places));
@@ -484,6 +592,11 @@ void Table::showCards(const std::vector<Player*>& players, const std::vector<Pla
 }
 
 void Table::showAllIn() {
+  showCards(inHandAfter(dealerSeat_), {});
+  shown_ = true;
+}
+
+void Table::tellChances() {
   constexpr std::int64_t WHOLE = 60;  // splits evenly among up to six winners
   const std::vector<Player*> players = inHandAfter(dealerSeat_);
   std::map<const Player*, std::int64_t> shares;
@@ -495,13 +608,11 @@ void Table::showAllIn() {
     for (const Player* winner : winners) shares[winner] += WHOLE / std::ssize(winners);
     ++boards;
   });
-  showCards(players, {});
-  shown_ = true;
-  // Each player's chance to win the main pot, in hundredths of a percent.
+  // In hundredths of a percent.
   tell<AllInProbabilityResults>(Body().list<std::int32_t>(players, [&](Body& body, const Player* player) {
     body.i32(player->person.id).i32(shares[player] * 10'000 / (WHOLE * boards));
   }));
-  capture_.pause(3000);
+  audience().pause(3000);
 }
 
 std::vector<Table::Pot> Table::pots() {
@@ -518,7 +629,13 @@ std::vector<Table::Pot> Table::pots() {
                          [&](const Player* player) { return player->paid >= level; });
     below = level;
   }
-  pots.front().amount += dead_ - rake_;
+  pots.front().amount += dead_;
+  std::int64_t rake = rake_;
+  for (Pot& pot : pots) {
+    const std::int64_t share = std::min(rake, pot.amount);
+    pot.amount -= share;
+    rake -= share;
+  }
   return pots;
 }
 
@@ -542,10 +659,10 @@ void Table::payPots(const std::vector<Pot>& pots) {
 bool Table::asksToShow(const Player& player, bool wins) {
   if (wins) {
     tell<ClientShowCardsReq>(playerId(player));
-    if (isUser(player)) capture_.client(ServerShowCards());
+    audience().answered(player.person, ServerShowCards());
   } else {
     tell<ClientMuckLosingCardsReq>(playerId(player));
-    if (isUser(player)) capture_.client(ServerMuckCards());
+    audience().answered(player.person, ServerMuckCards());
   }
   return wins;
 }
@@ -567,8 +684,10 @@ void Table::winUncalled(bool show) {
   const std::vector<Player*> winner = inHandAfter(dealerSeat_);
   if (winner.size() != 1) throw std::logic_error("a showdown is due");
   tell<ClientMuckCardsReq>(playerId(*winner[0]));
-  if (isUser(*winner[0]) && show) capture_.client(ServerShowCards());
-  if (isUser(*winner[0]) && !show) capture_.client(ServerMuckCards());
+  if (show)
+    audience().answered(winner[0]->person, ServerShowCards());
+  else
+    audience().answered(winner[0]->person, ServerMuckCards());
   if (show) showCards(winner, {});
   payPots(pots());
   endHand();
@@ -578,8 +697,9 @@ void Table::endHand() {
   move(rake_, house_, rake_);
   dead_ = 0;
   board_.clear();
+  handRunning_ = false;
   for (Player& player : players_) player.inHand = false;
   tell<ClientEndRound>();
 }
 
-}  // namespace Samples
+}  // namespace CardRoom

@@ -5,7 +5,7 @@
 #include <functional>
 #include <stdexcept>
 
-namespace Samples {
+namespace CardRoom {
 
 namespace {
 
@@ -91,4 +91,4 @@ BestHand bestHand(std::span<const Card> cards) {
   return best;
 }
 
-}  // namespace Samples
+}  // namespace CardRoom
