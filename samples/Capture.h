@@ -1,10 +1,9 @@
 #pragma once
 #include <herald/messages/ServerMessage.h>
-#include <pcap/pcap.h>
+#include <tools/CaptureWriter.h>
 
 #include <cstdint>
 #include <filesystem>
-#include <memory>
 #include <vector>
 
 #include "People.h"
@@ -18,7 +17,7 @@ using CardRoom::Body;
 /// moves a little with each packet, so that a play gives the same bytes at every run.
 class Capture : public CardRoom::Audience {
  public:
-  /// Replaces the file; throws `std::runtime_error` when it cannot be written.
+  /// Replaces the file; throws `Tessel::CaptureWriteError` when it cannot be written, as all below do.
   explicit Capture(const std::filesystem::path& file);
 
   /// The server sends a message, under the id (the first, where there are two) that the message's class has.
@@ -39,19 +38,13 @@ class Capture : public CardRoom::Audience {
   void pause(std::int64_t milliseconds) override { milliseconds_ += milliseconds; }
   std::int64_t now() const override { return milliseconds_; }
 
-  /// Completes the file; throws `std::runtime_error` when something could not be written.
-  void close();
+  /// Completes the file.
+  void close() { writer_.close(); }
 
  private:
-  struct Close {
-    void operator()(pcap_t* handle) const { pcap_close(handle); }
-    void operator()(pcap_dumper_t* dumper) const { pcap_dump_close(dumper); }
-  };
+  void write(Tessel::Direction direction, const Body& message);
 
-  void write(const Body& packet);
-
-  std::unique_ptr<pcap_t, Close> handle_;
-  std::unique_ptr<pcap_dumper_t, Close> dumper_;
+  Tessel::CaptureWriter writer_;
   std::int64_t milliseconds_ = 1'709'924'400'000;  // 8 March 2024, 19:00 UTC
 };
 

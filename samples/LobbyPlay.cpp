@@ -303,8 +303,8 @@ class LobbyPlay {
                         .bigBlind = 50,
                         .maxPlayers = 6,
                         .flags = Game::FAST | Game::PRIVATE | Game::MODERATED};
-    capture_.client(PGCreateGameReq(
-        PGSettings(1, table.maxPlayers, PGSettings::JoinType{1}, std::wstring_view(table.name), PokerGameInfo::GameSpeed{Game::FAST})));
+    capture_.client(PGCreateGameReq(PGSettings(1, table.maxPlayers, PGSettings::JoinType{1},
+                                               std::wstring_view(table.name), PokerGameInfo::GameSpeed{Game::FAST})));
     capture_.server<PGCreateGameReply>(pokerGame(table));
     capture_.server<PGPromotedModerator>(Body().i32(USER.id));
 

@@ -29,7 +29,7 @@ std::string encodedAgain(const std::string& capture, const std::string& options 
 TEST(BothWaysTest, DecodedCapturesBecomeTheSameBytesAgain) {
   for (const char* name : {"table", "lobby", "tournament"}) {
     const std::string sample = contentOf(std::string(HERALD_SAMPLES_DIR "/") + name + ".pcap");
-    EXPECT_EQ(packetsOf(encodedAgain(sample)), packetsOf(sample)) << name;
+    EXPECT_EQ(encodedAgain(sample), sample) << name;
     EXPECT_EQ(run("decode --json --secrets FILE", sample).out.find("\"hex\""), std::string::npos)
         << "the fields alone tell everything in " << name;
   }
