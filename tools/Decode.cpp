@@ -2,6 +2,7 @@
 
 #include <herald/inspect/Json.h>
 #include <herald/messages/ClientMessageTable.h>
+#include <herald/platform/keystone/ByteStream.h>
 
 #include <algorithm>
 #include <charconv>
@@ -31,8 +32,6 @@ void appendNumber(std::integral auto number, std::string& line) {
 
 std::string_view orDash(std::string_view text) { return text.empty() ? "-" : text; }
 
-std::string timeOf(const Packet& packet) { return toIsoTime(packet.time, packet.precision); }
-
 // name=value pairs; a text stands in quotes, what a number means in parentheses.
 std::string fieldsOf(const Shown& shown) {
   const std::optional<Inspectable> object = shown.decoded.object();
@@ -61,7 +60,10 @@ struct Column {
 constexpr Column COLUMNS[] = {
     {"file", [](const Shown& shown, std::string& line) { line += escaped(shown.file); }},
     {"packet", [](const Shown& shown, std::string& line) { appendNumber(shown.decoded.packet().number, line); }},
-    {"time", [](const Shown& shown, std::string& line) { line += timeOf(shown.decoded.packet()); }},
+    {"time",
+     [](const Shown& shown, std::string& line) {
+       appendIsoTime(shown.decoded.packet().time, shown.decoded.packet().precision, line);
+     }},
     {"direction", [](const Shown& shown, std::string& line) { line += nameOf(shown.decoded.packet().direction); }},
     {"id", [](const Shown& shown, std::string& line) { appendNumber(shown.decoded.packet().id, line); }},
     {"class", [](const Shown& shown, std::string& line) { line += orDash(shown.decoded.className()); }},
@@ -92,8 +94,8 @@ void appendLine(const Shown& shown, const std::vector<const Column*>& columns, s
 }
 
 // The bytes of what its fields alone do not tell, so that it can be encoded again.
-void appendUntold(const Shown& shown, std::string& line) {
-  if (shown.decoded.isToldByItsFields()) return;
+void appendUntold(const Shown& shown, ByteStream& scratch, std::string& line) {
+  if (shown.decoded.isToldByItsFields(scratch)) return;
   const bool mayHoldSecret = shown.decoded.packet().direction == Direction::TO_SERVER;
   line += ",\"hex\":";
   appendJsonString(
@@ -101,7 +103,7 @@ void appendUntold(const Shown& shown, std::string& line) {
       line);
 }
 
-void appendJsonLine(const Shown& shown, bool namesFile, std::string& line) {
+void appendJsonLine(const Shown& shown, bool namesFile, ByteStream& scratch, std::string& line) {
   const DecodedPacket& decoded = shown.decoded;
   const Packet& packet = decoded.packet();
   line += '{';
@@ -112,7 +114,8 @@ void appendJsonLine(const Shown& shown, bool namesFile, std::string& line) {
   }
   line += "\"packet\":";
   appendNumber(packet.number, line);
-  line.append(",\"time\":\"").append(timeOf(packet));
+  line += ",\"time\":\"";
+  appendIsoTime(packet.time, packet.precision, line);
   line.append("\",\"direction\":\"").append(nameOf(packet.direction)).append("\",\"id\":");
   appendNumber(packet.id, line);
   line += ",\"class\":";
@@ -133,7 +136,7 @@ void appendJsonLine(const Shown& shown, bool namesFile, std::string& line) {
     appendJson(*object, line, {.secrets = shown.secrets});
   else
     line += "null";
-  appendUntold(shown, line);
+  appendUntold(shown, scratch, line);
   line += "}\n";
 }
 
@@ -157,7 +160,7 @@ class PacketPrinter {
 
  private:
   void append(const Shown& shown) {
-    if (options_.format == OutputFormat::JSON) return appendJsonLine(shown, namesFile_, line_);
+    if (options_.format == OutputFormat::JSON) return appendJsonLine(shown, namesFile_, scratch_, line_);
     shown.decoded.complain(diagnostics_);
     if (options_.format == OutputFormat::PRETTY)
       appendPretty(shown.decoded, namesFile_ ? shown.file : "", options_.secrets, colors_, line_);
@@ -172,6 +175,7 @@ class PacketPrinter {
   Output& output_;
   Diagnostics& diagnostics_;
   std::string line_;
+  ByteStream scratch_;
   std::shared_ptr<PacketReportSink> sink_;
   WithReportSink installed_;
 };

@@ -88,11 +88,11 @@ std::wstring DecodedPacket::maskedText() const {
   return request.request ? request.request->toDebugString() : std::wstring();
 }
 
-bool DecodedPacket::isToldByItsFields() const {
+bool DecodedPacket::isToldByItsFields(ByteStream& scratch) const {
   const std::optional<Inspectable> told = object();
   if (!told) return packet_.body.empty();
-  ByteStream again;
-  return encode(*told, again) && std::ranges::equal(again.bytes(), packet_.body);
+  scratch.truncate(0);
+  return encode(*told, scratch) && std::ranges::equal(scratch.bytes(), packet_.body);
 }
 
 void DecodedPacket::complain(Diagnostics& diagnostics) const {

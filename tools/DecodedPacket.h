@@ -13,6 +13,7 @@
 
 namespace Tessel {
 
+class ByteStream;
 class Diagnostics;
 
 /// The class that messages or requests of the packet's id have; empty when there is none.
@@ -36,8 +37,8 @@ class DecodedPacket {
   /// Its line for traces, in UTF-8 and escaped; "-" when nothing came of the bytes.
   std::string debugText(Secrets secrets) const;
 
-  /// Whether the fields of the object alone make the same bytes again.
-  bool isToldByItsFields() const;
+  /// Whether the fields of the object alone make the same bytes again, which they do in `scratch`.
+  bool isToldByItsFields(ByteStream& scratch) const;
 
   /// Says why it failed and at which byte, which the library's own reports leave out, and whether bytes were left.
   void complain(Diagnostics& diagnostics) const;

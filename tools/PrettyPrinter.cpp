@@ -20,7 +20,8 @@ class PrettyPrinter {
     const Packet& packet = decoded.packet();
     out_.append(colors_.heading());
     if (!file.empty()) out_.append(escaped(file)).append(" ");
-    out_.append("#").append(std::to_string(packet.number)).append(" ").append(toIsoTime(packet.time, packet.precision));
+    out_.append("#").append(std::to_string(packet.number)).append(" ");
+    appendIsoTime(packet.time, packet.precision, out_);
     out_.append(packet.direction == Direction::FROM_SERVER ? " <- " : " -> ");
     out_.append(decoded.className().empty() ? "unknown" : decoded.className()).append(colors_.plain());
     out_.append(" (id ").append(std::to_string(packet.id)).append(", ");

@@ -23,6 +23,12 @@ bool wantsColors(ColorChoice choice) {
          && std::string_view(terminal) != "dumb";
 }
 
+void appendDigits(std::int64_t number, int count, std::string& out) {
+  char digits[9];
+  for (int i = count; i-- > 0; number /= 10) digits[i] = static_cast<char>('0' + number % 10);
+  out.append(digits, static_cast<std::size_t>(count));
+}
+
 [[noreturn]] void throwNoTime(std::string_view text) {
   throw std::invalid_argument('"' + std::string(text) + "\" is no time such as 2024-03-08T19:00:00.015000Z");
 }
@@ -43,19 +49,20 @@ std::int64_t parseDecimals(std::string_view digits) {
 std::string escaped(std::wstring_view text) { return UTFEncoder::toUTF8(StringUtils::escapeLine(text)); }
 std::string escaped(std::string_view utf8) { return escaped(UTFEncoder::toWide(utf8)); }
 
-std::string toIsoTime(std::int64_t time, TimePrecision precision) {
+void appendIsoTime(std::int64_t time, TimePrecision precision, std::string& out) {
   const sys_time<nanoseconds> point{nanoseconds(time)};
   const auto day = floor<days>(point);
   const year_month_day date(day);
   const hh_mm_ss clock(point - day);
   const bool isFine = precision == TimePrecision::NANOSECONDS;
-  const auto decimals = clock.subseconds().count() / (isFine ? 1 : 1000);
-  char text[64];
-  std::snprintf(text, sizeof(text), "%04d-%02u-%02uT%02d:%02d:%02d.%0*lldZ", static_cast<int>(date.year()),
-                static_cast<unsigned>(date.month()), static_cast<unsigned>(date.day()),
-                static_cast<int>(clock.hours().count()), static_cast<int>(clock.minutes().count()),
-                static_cast<int>(clock.seconds().count()), isFine ? 9 : 6, static_cast<long long>(decimals));
-  return text;
+  appendDigits(static_cast<int>(date.year()), 4, out);
+  appendDigits(static_cast<unsigned>(date.month()), 2, out += '-');
+  appendDigits(static_cast<unsigned>(date.day()), 2, out += '-');
+  appendDigits(clock.hours().count(), 2, out += 'T');
+  appendDigits(clock.minutes().count(), 2, out += ':');
+  appendDigits(clock.seconds().count(), 2, out += ':');
+  appendDigits(clock.subseconds().count() / (isFine ? 1 : 1000), isFine ? 9 : 6, out += '.');
+  out += 'Z';
 }
 
 IsoTime parseIsoTime(std::string_view text) {

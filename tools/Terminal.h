@@ -11,8 +11,8 @@ namespace Tessel {
 std::string escaped(std::string_view utf8);
 std::string escaped(std::wstring_view text);
 
-/// "2024-03-08T19:00:00.015000Z", with as many digits as the capture tells apart.
-std::string toIsoTime(std::int64_t nanoseconds, TimePrecision precision);
+/// Appends "2024-03-08T19:00:00.015000Z", with as many digits as the capture tells apart. From 1970 on.
+void appendIsoTime(std::int64_t nanoseconds, TimePrecision precision, std::string& out);
 
 struct IsoTime {
   std::int64_t nanoseconds;

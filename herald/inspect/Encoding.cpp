@@ -1,6 +1,7 @@
 #include <herald/inspect/Encoding.h>
 #include <herald/inspect/FieldSource.h>
 #include <herald/inspect/Schema.h>
+#include <herald/messages/RequestFrame.h>
 #include <herald/platform/keystone/ByteStream.h>
 #include <herald/platform/keystone/Exceptions.h>
 #include <herald/platform/keystone/Format.h>
@@ -279,16 +280,15 @@ class SourceEncoder {
 }  // namespace
 
 bool encode(Inspectable object, ByteStream& out, Secrets secrets) {
-  ByteStream bytes;
-  EncodingSink sink(bytes, secrets);
+  FrameGuard written(out);
+  EncodingSink sink(out, secrets);
   try {
     object.describe(sink);
+    return written.complete();
   } catch (const KeystoneException& failure) {
     failure.report();
     return false;
   }
-  out.append(bytes.bytes());
-  return true;
 }
 
 void encodeFrom(FieldSource& source, std::string_view className, ByteStream& out) {
@@ -296,9 +296,9 @@ void encodeFrom(FieldSource& source, std::string_view className, ByteStream& out
   if (schema == nullptr) {
     throw KeystoneException(FILE_NAME, __LINE__, UTFEncoder::toWide("There is no class " + inQuotes(className) + "."));
   }
-  ByteStream bytes;
-  SourceEncoder(source, bytes).encode(*schema);
-  out.append(bytes.bytes());
+  FrameGuard written(out);
+  SourceEncoder(source, out).encode(*schema);
+  written.complete();
 }
 
 }  // namespace Tessel
