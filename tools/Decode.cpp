@@ -106,32 +106,39 @@ void appendUntold(const Shown& shown, ByteStream& scratch, std::string& line) {
 void appendJsonLine(const Shown& shown, bool namesFile, ByteStream& scratch, std::string& line) {
   const DecodedPacket& decoded = shown.decoded;
   const Packet& packet = decoded.packet();
+  const auto appendName = [&line](std::string_view name) { line.append(",\"").append(name).append("\":"); };
   line += '{';
   if (namesFile) {
-    line += "\"file\":";
+    line += R"("file":)";
     appendJsonString(shown.file, line);
     line += ',';
   }
-  line += "\"packet\":";
+  line += R"("packet":)";
   appendNumber(packet.number, line);
-  line += ",\"time\":\"";
+  appendName("time");
+  line += '"';
   appendIsoTime(packet.time, packet.precision, line);
-  line.append("\",\"direction\":\"").append(nameOf(packet.direction)).append("\",\"id\":");
+  line += '"';
+  appendName("direction");
+  appendJsonString(nameOf(packet.direction), line);
+  appendName("id");
   appendNumber(packet.id, line);
-  line += ",\"class\":";
+  appendName("class");
   if (const std::string_view name = decoded.className(); !name.empty())
     appendJsonString(name, line);
   else
     line += "null";
-  line.append(",\"outcome\":\"").append(nameOf(decoded.outcome())).append("\",\"bytesRead\":");
+  appendName("outcome");
+  appendJsonString(nameOf(decoded.outcome()), line);
+  appendName("bytesRead");
   appendNumber(decoded.bytesRead(), line);
-  line += ",\"bytes\":";
+  appendName("bytes");
   appendNumber(packet.body.size(), line);
   if (!decoded.reason().empty()) {
-    line += ",\"reason\":";
+    appendName("reason");
     appendJsonString(decoded.reason(), line);
   }
-  line += ",\"message\":";
+  appendName("message");
   if (const auto object = decoded.object())
     appendJson(*object, line, {.secrets = shown.secrets});
   else

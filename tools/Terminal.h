@@ -11,8 +11,9 @@ namespace Tessel {
 std::string escaped(std::string_view utf8);
 std::string escaped(std::wstring_view text);
 
-/// Appends "2024-03-08T19:00:00.015000Z", with as many digits as the capture tells apart. From 1970 on.
-void appendIsoTime(std::int64_t nanoseconds, TimePrecision precision, std::string& out);
+/// Appends a time in nanoseconds since 1970, which it is not before, as "2024-03-08T19:00:00.015000Z" with as many
+/// digits as the capture tells apart.
+void appendIsoTime(std::int64_t time, TimePrecision precision, std::string& out);
 
 struct IsoTime {
   std::int64_t nanoseconds;

@@ -12,7 +12,7 @@ namespace Tessel {
 struct Example {
   /// The name of the file, without its folder.
   std::string capture;
-  std::uint64_t packet;
+  std::uint64_t packet = 0;
   std::vector<std::uint8_t> body;
   std::vector<FieldPlace> places;
   /// As UTF-8.

@@ -67,7 +67,7 @@ class PlaceFinder {
     const std::size_t begin = at_;
     const auto size = static_cast<std::uint16_t>(takeNumber(2));
     const auto bytes = takeBytes(size);
-    const std::string text(bytes.begin(), bytes.end());
+    std::string text(bytes.begin(), bytes.end());
     places_.push_back({path, &field, begin, at_, text});
     return text;
   }

@@ -54,9 +54,18 @@ std::string reference(std::string_view definition) {
 std::string typeOf(const FieldSchema& field);
 
 std::int64_t largestOf(WireType type) {
-  if (type == WireType::BOOL) return 1;
-  return type == WireType::INT64 ? std::numeric_limits<std::int64_t>::max()
-                                 : (std::int64_t{1} << (8 * widthOf(type) - 1)) - 1;
+  switch (type) {
+    case WireType::BYTE:
+      return std::numeric_limits<std::int8_t>::max();
+    case WireType::SHORT:
+      return std::numeric_limits<std::int16_t>::max();
+    case WireType::INT:
+      return std::numeric_limits<std::int32_t>::max();
+    case WireType::INT64:
+      return std::numeric_limits<std::int64_t>::max();
+    default:
+      return 1;
+  }
 }
 
 std::string listOf(const FieldSchema& list) {

@@ -8,9 +8,6 @@
 
 namespace Tessel {
 
-/// Empty for NONE.
-std::string_view nameOf(WireType type);
-
 using Bodies = std::map<std::string_view, const RecordSchema*>;
 
 /// The bodies of messages or requests by class. They live in the schema.

@@ -307,9 +307,9 @@ class PagePrinter {
   std::string navigation() const {
     std::string links = "<nav>\n";
     for (const auto& [area, entries] : areas_)
-      links += "<a href=\"#" + anchorOf(area) + "\">" + escape(area) + " <span class=\"dim\">"
+      links += R"(<a href="#)" + anchorOf(area) + "\">" + escape(area) + R"( <span class="dim">)"
                + std::to_string(entries.size()) + "</span></a>\n";
-    return links + "<a href=\"#Records\">Records <span class=\"dim\">" + std::to_string(records_.size())
+    return links + R"(<a href="#Records">Records <span class="dim">)" + std::to_string(records_.size())
            + "</span></a>\n</nav>\n";
   }
 
@@ -337,7 +337,7 @@ class PagePrinter {
     if (entry.kind != EntryKind::RECORD)
       tags += entry.kind == EntryKind::FROM_SERVERS ? " <span class=\"tag\">↓ from servers</span>"
                                                     : " <span class=\"tag\">↑ to servers</span>";
-    std::string html = "<article class=\"entry\" id=\"" + name + "\" data-names=\"" + names + "\">\n<h3><a href=\"#"
+    std::string html = R"(<article class="entry" id=")" + name + R"(" data-names=")" + names + "\">\n<h3><a href=\"#"
                        + name + "\">" + name + "</a>" + tags + "</h3>\n";
     if (const HeaderComments::OfClass* comment = comments_.find(entry.record->name)) html += paragraph(comment->text);
     html += entry.kind == EntryKind::RECORD ? fieldsOf(*entry.record) : bodyOf(*entry.record);

@@ -18,6 +18,7 @@ const std::string PAGE = "page";
 
 std::vector<std::string> schemaLanguages() {
   std::vector<std::string> languages;
+  languages.reserve(PRINTERS.size() + 1);
   for (const auto& [language, print] : PRINTERS) languages.push_back(language);
   languages.push_back(PAGE);
   return languages;
