@@ -43,6 +43,16 @@ def with_masks(value, expected):
     return "***" if isinstance(value, str) and expected == "***" else value
 
 
+def compare_packet(where, body, line, values):
+    if not body._io.is_eof():
+        values.differ(where, f"the parser ended at byte {body._io.pos()} of {body._io.size()}")
+    if type(body).__name__.lower() != line["class"].lower():
+        values.differ(where, f"{type(body).__name__} is not {line['class']}")
+    elif line["message"] is not None:
+        message = named({name: value for name, value in line["message"].items() if name != "class"})
+        values.compare(where, message, with_masks(parsed(body), message))
+
+
 def main():
     herald, folder, *captures = sys.argv[1:]
     sys.path.insert(0, folder)
@@ -52,15 +62,10 @@ def main():
         lines, _ = decode(herald, capture)
         for number, payload in enumerate(read_capture(capture), 1):
             where = f"{capture}, packet {number}"
-            body = parser.from_bytes(payload).message.body
-            if not body._io.is_eof():
-                values.differ(where, f"the parser ended at byte {body._io.pos()} of {body._io.size()}")
-            message = lines[number]["message"]
-            if type(body).__name__.lower() != lines[number]["class"].lower():
-                values.differ(where, f"{type(body).__name__} is not {lines[number]['class']}")
-            elif message is not None:
-                message = named({name: message[name] for name in message if name != "class"})
-                values.compare(where, message, with_masks(parsed(body), message))
+            try:
+                compare_packet(where, parser.from_bytes(payload).message.body, lines[number], values)
+            except (EOFError, AttributeError, ValueError) as failure:
+                values.differ(where, failure)
     sys.exit(0 if values.finish() else 1)
 
 

@@ -38,30 +38,28 @@ class Packet:
     def __init__(self, packet, are_booleans):
         self.number = int(packet.find("./proto/field[@name='num']").get("show"))
         self.herald = packet.find("./proto[@name='herald']")
-        self.class_name = self._shown("herald.class")
+        class_field = self.herald.find("./field[@name='herald.class']") if self.herald is not None else None
+        self.class_name = class_field.get("show") if class_field is not None else None
         names = [field.get("name") for field in packet.iter("field")]
         self.notes = [names[i + 1] for i, name in enumerate(names) if name == "_ws.expert"]
-        self.body = self.herald.find(f"./field[@name='herald.{self.class_name}']")
+        self.body = packet.find(f"./proto/field[@name='herald.{self.class_name}']")
         self._are_booleans = are_booleans
-
-    def _shown(self, name):
-        field = self.herald.find(f"./field[@name='{name}']")
-        return None if field is None else field.get("show")
 
     def message(self):
         return self._record(self.body)
 
     def places(self):
         """Where each field without fields, and each count, begins and ends."""
-        yield from self._places(self.body)
+        return self._places(self.body) if self.body is not None else []
 
     def _record(self, node):
         record = {}
         for field in node.findall("field"):
             name = field.get("name").rsplit(".", 1)[1]
             if name.endswith("_count"):
-                record[name.removesuffix("_count")] = [self._value(item) for item in field.findall("field")]
-                assert int(field.get("show")) == len(field.findall("field")), f"packet {self.number}: count of {name}"
+                items = [self._value(item) for item in field.findall("field")]
+                is_whole = int(field.get("show")) == len(items)
+                record[name.removesuffix("_count")] = items if is_whole else f"{len(items)} of {field.get('show')} items"
             else:
                 record[name] = self._value(field)
         return record
