@@ -102,6 +102,8 @@ int Table::playersReady() const {
       std::ranges::count_if(players_, [](const Player& player) { return player.sittingIn && player.stack > 0; }));
 }
 
+bool Table::isInHand(int id) { return handRunning_ && !player(id).cards.empty(); }
+
 int Table::playersInHand() { return static_cast<int>(inHandAfter(dealerSeat_).size()); }
 
 void Table::move(std::int64_t& from, std::int64_t& to, std::int64_t amount) {
@@ -196,7 +198,7 @@ void Table::enter(const Person& person, std::int64_t account) {
 
 std::int64_t Table::leave(const Person& person) {
   const Player& leaving = player(person);
-  if (leaving.inHand) throw std::logic_error("a player who is in a hand left");
+  if (isInHand(person.id)) throw std::logic_error("a player left whose chips are in the pot");
   if (leaving.seat != Player::NO_SEAT) standUp(person);
   tell<PlayerLeft>(Body().text(person.nick).i32(game_.id));
   tell<PlayerIGLeft>(Body().i32(person.id));

@@ -84,7 +84,7 @@ class Table : public Teller {
 
   /// Seats. An account comes to the table with its owner, and leaves with its owner.
   void enter(const Person& person, std::int64_t account);
-  /// Answers the account. Throws for a player who is in a hand.
+  /// Answers the account. Throws for a player of the hand that is running.
   std::int64_t leave(const Person& person);
   void sitDown(const Person& person, int seat);
   void takeMoney(const Person& person, std::int64_t amount);
@@ -105,6 +105,8 @@ class Table : public Teller {
   /// Those who would play a hand that began now.
   int playersReady() const;
   bool isHandRunning() const { return handRunning_; }
+  /// Whether the player was dealt into the hand that is running, folded or not.
+  bool isInHand(int id);
   int boardSize() const { return static_cast<int>(board_.size()); }
   int playersInHand();
   void postAntes();

@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <fstream>
 #include <iostream>
+#include <limits>
 #include <map>
 #include <set>
 #include <stdexcept>
@@ -35,6 +36,8 @@ class Check {
       switch (entry.kind) {
         case LedgerEntry::MESSAGE:
           session.sent.emplace_back(entry.digest, entry.number);
+          firstSent_ = std::min(firstSent_, entry.number);
+          lastSent_ = std::max(lastSent_, entry.number);
           break;
         case LedgerEntry::HAND:
           hands_[entry.number] = entry.digest;
@@ -69,7 +72,10 @@ class Check {
         fault("connection " + std::to_string(id) + ": " + std::to_string(session.delivered) + " of "
               + std::to_string(session.sent.size()) + " messages have come");
     }
-    std::cout << "messages    " << sent << " sent, " << latencies_.size() << " delivered, in order and unchanged\n"
+    const double seconds = static_cast<double>(lastSent_ - firstSent_) / 1e9;
+    const auto rate = static_cast<std::int64_t>(static_cast<double>(latencies_.size()) / seconds);
+    std::cout << "messages    " << sent << " sent, " << latencies_.size() << " delivered in order and unchanged, "
+              << rate << " a second\n"
               << "connections " << cut << " cut\n"
               << "hands       " << hands_.size() << ", clients agreed " << agreed_ << " times, " << excused_
               << " times a client was told nonsense\n";
@@ -130,6 +136,8 @@ class Check {
   std::map<std::int32_t, Session> sessions_;
   std::map<std::int64_t, std::uint64_t> hands_;
   std::vector<std::int64_t> latencies_;
+  std::int64_t firstSent_ = std::numeric_limits<std::int64_t>::max();
+  std::int64_t lastSent_ = 0;
   std::size_t agreed_ = 0;
   std::size_t excused_ = 0;
   int faults_ = 0;

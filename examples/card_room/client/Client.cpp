@@ -46,6 +46,8 @@ Client::Client(asio::io_context& io, PostOffice& office, const Settings& setting
   stopHolding();
 }
 
+Client::~Client() { leaveTournament(); }
+
 // The user's thread.
 
 void Client::work() {
@@ -338,10 +340,12 @@ void Client::followTournament(int id) {
   leaveTournament();
   tournament_.emplace(id);
   follow(*tournament_);
+  pilot_.follows(&*tournament_);
 }
 
 void Client::leaveTournament() {
   unfollow();
+  pilot_.follows(nullptr);
   tournament_.reset();
 }
 

@@ -32,6 +32,8 @@ class Pilot {
   /// It is the player's turn.
   virtual void toMove(Client& client, const Tessel::PlayerActionsInfo& actions) = 0;
   virtual void handEnded(Client& client) = 0;
+  /// The player is in this tournament from now on; null: in none, and the model goes when this has returned.
+  virtual void follows(Tessel::SpecificTournamentModel*) {}
 };
 
 /// What the lobby lists.
@@ -67,6 +69,10 @@ class Client : public TableHandler,
   };
 
   Client(asio::io_context& io, Tessel::PostOffice& office, const Settings& settings, Pilot& pilot);
+
+  ~Client() override;
+  Client(const Client&) = delete;
+  Client& operator=(const Client&) = delete;
 
   void start() { connection_.open(); }
   /// Delivers what has come since the last call.

@@ -50,6 +50,8 @@ void TableHandler::handle(const ClientSatOut& message) {
 void TableHandler::handle(const ClientBetReq& message) {
   const BetRequestInfo& request = message.getBetRequestInfo();
   table_.toAct = request.getNrReqSeats() > 0 ? request.getReqSeat(0) : -1;
+  table_.secondsToAct = request.getTotalTime();
+  table_.deadline = std::chrono::steady_clock::now() + std::chrono::seconds(request.getTimeLeft());
 }
 
 void TableHandler::handle(const ClientBetDone& message) { table_.bet(message.getCreditInfo(), L"bets"); }

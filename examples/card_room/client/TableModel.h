@@ -7,6 +7,7 @@
 #include <herald/messages/info_objects/WinPotInfo.h>
 #include <herald/platform/keystone/Card.h>
 
+#include <chrono>
 #include <cstdint>
 #include <map>
 #include <string>
@@ -35,7 +36,9 @@ struct TableModel {
   std::int64_t bigBlind = 0;
   int hand = 0;
   int dealer = -1;
-  int toAct = -1;  ///< The seat whose turn it is; -1 for none.
+  int toAct = -1;                                    ///< The seat whose turn it is; -1 for none.
+  std::chrono::steady_clock::time_point deadline{};  ///< Until when.
+  int secondsToAct = 0;
   std::int64_t pot = 0;
   std::int64_t rake = 0;
   std::vector<Tessel::Card> board;

@@ -1,6 +1,7 @@
 // A client of the card room: a table in the terminal for one player, or any number of players that play by themselves.
 
 #include <herald/platform/keystone/BugReporter.h>
+#include <herald/platform/keystone/UTFEncoder.h>
 
 #include <algorithm>
 #include <asio.hpp>
@@ -13,6 +14,8 @@
 #include "../common/QuietSink.h"
 #include "Bot.h"
 #include "Client.h"
+#include "Person.h"
+#include "Terminal.h"
 
 using namespace CardRoom;
 using Tessel::PostOffice;
@@ -77,6 +80,44 @@ class BotHouse {
   std::vector<std::unique_ptr<Client>> clients_;
 };
 
+/// One player, with a table in the terminal.
+class Evening {
+ public:
+  Evening(const Options& options, Client::Settings settings) {
+    const std::string nick = options.text("--nick", "Marigold");
+    settings.connection.login = LoginRequest(Tessel::UTFEncoder::toWide(nick), L"Utrecht");
+    client_ = std::make_unique<Client>(io_, office_, settings, person_);
+  }
+
+  bool run() {
+    constexpr int WAIT_MS = 200;
+    client_->start();
+    const auto keepRunning = asio::make_work_guard(io_);
+    std::thread network([this] { io_.run(); });
+    {
+      Terminal terminal(keys_);
+      while (!client_->isOver()) {
+        office_.waitForMail(WAIT_MS);
+        for (const auto& pressed : keys_.pickupAll())
+          if (!person_.press(*client_, pressed->key)) client_->quit();
+        client_->work();
+        terminal.show(person_.screen(*client_, Terminal::size()));
+      }
+    }
+    io_.stop();
+    network.join();
+    std::cout << Tessel::UTFEncoder::toUTF8(client_->status()) << '\n';
+    return true;
+  }
+
+ private:
+  asio::io_context io_;
+  PostOffice office_;
+  KeyMailBox keys_{&office_};
+  Person person_;
+  std::unique_ptr<Client> client_;
+};
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -95,7 +136,8 @@ int main(int argc, char** argv) {
     settings.connection.lossInterval = options.number("--lose", 0);
     if (options.has("--record")) settings.connection.recorder = &recorder.emplace(options.text("--record"));
     if (options.has("--ledger")) settings.ledger = &ledger.emplace(options.text("--ledger"));
-    return BotHouse(options, settings).run() ? 0 : 1;
+    const bool isInOrder = options.has("--bots") ? BotHouse(options, settings).run() : Evening(options, settings).run();
+    return isInOrder ? 0 : 1;
   } catch (const std::invalid_argument& wrong) {
     std::cerr << "card_room_client: " << wrong.what() << '\n' << USAGE;
     return 2;

@@ -117,7 +117,7 @@ void LiveTable::takeMoney(int player, std::int64_t amount) {
 
 void LiveTable::leave(int player, std::function<void(std::int64_t)> left) {
   leaving_[player] = std::move(left);
-  if (!table_.isHandRunning() || !table_.player(player).inHand) return letGo(player);
+  if (!table_.isInHand(player)) return letGo(player);
   if (isToAct(player)) make(FOLD);
 }
 

@@ -65,8 +65,12 @@ void Session::record(const RequestFrames::Frame& frame) {
 
 void Session::send(int messageId, std::span<const std::uint8_t> body) {
   if (state_ != State::OPEN) return;
+  if (messagesLeft_ && --*messagesLeft_ == 0) return close();
+  // The first message names the session in the clients' notes: no damage comes to it.
+  const bool isFirst = std::exchange(isFirst_, false);
   switch (surroundings_.chaos ? surroundings_.chaos->nextFault() : Chaos::Fault::NONE) {
     case Chaos::Fault::DAMAGE:
+      if (isFirst) break;
       return sendDamaged(messageId, surroundings_.chaos->damaged(body));
     case Chaos::Fault::CUT:
       return sendHalf(messageId, body);
@@ -83,7 +87,8 @@ void Session::send(int messageId, std::span<const std::uint8_t> body) {
   enqueue(messageId, body);
 }
 
-// The client believes what the bytes say, if they say anything. Its picture is wrong then, so that the connection ends.
+// The client believes what the bytes say, if they say anything. Its picture is wrong then, so that the connection ends
+// soon.
 void Session::sendDamaged(int messageId, std::span<const std::uint8_t> body) {
   ByteStream stream = ByteStream::view(body);
   const DecodedMessage decoded = ClientMessageFactory::decode(messageId, stream);
@@ -94,7 +99,8 @@ void Session::sendDamaged(int messageId, std::span<const std::uint8_t> body) {
     surroundings_.ledger->message(id_, classOf(messageId), believed.bytes());
   }
   enqueue(messageId, body);
-  if (isBelieved) close();
+  constexpr int MOST_AFTER_LIE = 40;
+  if (isBelieved && !messagesLeft_) messagesLeft_ = 1 + surroundings_.chaos->roll(MOST_AFTER_LIE);
 }
 
 void Session::sendHalf(int messageId, std::span<const std::uint8_t> body) {

@@ -72,6 +72,8 @@ class Session : public std::enable_shared_from_this<Session> {
   Bytes sending_;
   std::size_t sent_ = 0;  ///< of what is being sent
   bool isWriting_ = false;
+  bool isFirst_ = true;
+  std::optional<int> messagesLeft_;  ///< before the connection ends
 };
 
 }  // namespace CardRoom

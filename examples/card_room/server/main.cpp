@@ -33,7 +33,8 @@ class Server {
     roomOptions.tables = options.number("--tables", roomOptions.tables);
     roomOptions.pace.betweenHands =
         std::chrono::milliseconds(options.number("--pause", static_cast<int>(roomOptions.pace.betweenHands.count())));
-    roomOptions.seed = chaos_.value_or(std::random_device()());
+    roomOptions.seed =
+        static_cast<std::uint32_t>(options.number("--seed", static_cast<int>(std::random_device()() >> 1)));
     roomOptions.ledger = ledger_ ? &*ledger_ : nullptr;
     room_ = std::make_unique<Room>(io_, roomOptions);
   }
@@ -122,10 +123,10 @@ class Server {
 int main(int argc, char** argv) {
   constexpr auto USAGE =
       "usage: card_room_server [--port N] [--tables N] [--pause MILLISECONDS] [--seconds N] [--record FILE]\n"
-      "                        [--chaos SEED] [--ledger FILE]\n";
+      "                        [--seed N] [--chaos SEED] [--ledger FILE]\n";
   try {
-    const Options options(argc, argv, {"--port", "--tables", "--pause", "--seconds", "--record", "--chaos", "--ledger"},
-                          {});
+    const Options options(
+        argc, argv, {"--port", "--tables", "--pause", "--seconds", "--record", "--chaos", "--seed", "--ledger"}, {});
     Tessel::BugReporter::getInstance().setSink(std::make_shared<QuietSink>());
     return Server(options).run() ? 0 : 1;
   } catch (const std::invalid_argument& wrong) {
