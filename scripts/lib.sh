@@ -5,7 +5,7 @@ cd "$top"
 
 # What the release preset needs, as Debian packages.
 BUILD_PACKAGES=(g++ cmake ninja-build pkg-config libgtest-dev libbenchmark-dev libpcap-dev libcli11-dev nlohmann-json3-dev
-  zlib1g-dev libasio-dev)
+  zlib1g-dev libasio-dev libsqlite3-dev)
 
 if [ -t 1 ] && [ -z "${NO_COLOR:-}" ] && [ "${TERM:-dumb}" != dumb ]; then
   BOLD=$'\e[1m' DIM=$'\e[2m' GREEN=$'\e[32m' CYAN=$'\e[36m' YELLOW=$'\e[33m' PLAIN=$'\e[0m'

@@ -14,6 +14,7 @@
 #include "Ids.h"
 #include "Output.h"
 #include "Stats.h"
+#include "export/Export.h"
 #include "schema/Schemas.h"
 
 namespace Tessel {
@@ -23,7 +24,8 @@ namespace {
 constexpr const char* EXIT_STATUSES = R"(Exit status:
   0  every packet was looked at, whether or not its message could be decoded
   1  a capture cannot be opened, is no capture of link type 147 (USER0) or is
-     damaged, a line cannot be encoded, or the output cannot be written
+     damaged, a line cannot be encoded, or the output cannot be written, as a
+     database that exists
   2  the command line is wrong
   diff: 0 the captures hold the same messages, 1 they differ, 2 anything else)";
 
@@ -82,6 +84,16 @@ constexpr const char* SCHEMA_HELP = R"(Examples:
   herald schema json > herald.schema.json
   herald schema page session.pcap > protocol.html)";
 
+constexpr const char* EXPORT_HELP = R"(Each message and request class has a table, each list in it a table of its items,
+and packets has a row for every packet. A record within a message adds columns:
+body.seat becomes body_seat. What is cut short or interrupted has 0 in
+meta.complete. Captures may be compressed by gzip.
+
+Examples:
+  herald export session.pcap session.db
+  herald export --force monday.pcap.gz tuesday.pcap.gz week.db
+  sqlite3 session.db 'SELECT class, count(*) FROM packets GROUP BY class')";
+
 constexpr const char* CATALOGUE_HELP = R"(Example:
   herald catalogue | grep -A 8 '^PlayerInfo$')";
 
@@ -117,6 +129,7 @@ CommandLine::CommandLine() : app_("Looks into captures of the messages of a poke
   addStats();
   addDiff();
   addSchema();
+  addExport();
   app_.add_subcommand("ids", "Print the ids of all messages and requests")->footer(IDS_HELP);
   app_.add_subcommand("catalogue", "Print every message, request and record with its fields")->footer(CATALOGUE_HELP);
   for (CLI::App* subcommand : app_.get_subcommands({})) subcommands_[subcommand->get_name()] = subcommand;
@@ -204,6 +217,22 @@ void CommandLine::addSchema() {
   schema->add_option("CAPTURES", files_, "The captures that give the examples of the page");
 }
 
+void CommandLine::addExport() {
+  CLI::App* subcommand = app_.add_subcommand("export", "Make an SQLite database of captures")->footer(EXPORT_HELP);
+  addFiles(*subcommand);
+  addFilter(*subcommand);
+  subcommand->get_option("FILE")
+      ->required()
+      ->expected(2, std::numeric_limits<int>::max())
+      ->description("The captures; - is standard input. The last is the database");
+  subcommand->add_flag("--secrets", showsSecrets_, "Write passwords, too");
+  subcommand->add_flag("--force", replaces_, "Replace the database when there is one");
+  subcommand->callback([this] {
+    database_ = files_.back();
+    files_.pop_back();
+  });
+}
+
 void CommandLine::parse(int argc, char** argv) {
   if (argc > 1) firstArgument_ = argv[1];
   app_.parse(argc, argv);
@@ -215,6 +244,7 @@ int CommandLine::run(Output& output, Diagnostics& diagnostics) const {
   if (isCalled("decode")) return statusOf(decode(output, diagnostics));
   if (isCalled("encode")) return statusOf(encodeFiles(files_, {.capture = capture_}, output, diagnostics));
   if (isCalled("stats")) return statusOf(printStats(captures(), filter(), output, diagnostics));
+  if (isCalled("export")) return statusOf(exportFiles(output, diagnostics));
   if (isCalled("diff")) return diff(output, diagnostics);
   if (isCalled("ids"))
     printIds(output);
@@ -230,6 +260,14 @@ bool CommandLine::decode(Output& output, Diagnostics& diagnostics) const {
   if (!files_.empty()) return decodeCaptures(captures(), options, output, diagnostics);
   decodeBody(*options.filter.id, parseHex(hex_), options, output, diagnostics);
   return true;
+}
+
+bool CommandLine::exportFiles(Output& output, Diagnostics& diagnostics) const {
+  const ExportOptions options{.database = database_,
+                              .replaces = replaces_,
+                              .filter = filter(),
+                              .secrets = showsSecrets_ ? Secrets::SHOWN : Secrets::MASKED};
+  return exportCaptures(captures(), options, output, diagnostics);
 }
 
 int CommandLine::diff(Output& output, Diagnostics& diagnostics) const {

@@ -29,11 +29,13 @@ class CommandLine {
   void addStats();
   void addDiff();
   void addSchema();
+  void addExport();
   void addFiles(CLI::App& subcommand);
   void addFilter(CLI::App& subcommand);
   void addAppearance(CLI::App& subcommand);
 
   bool decode(Output& output, Diagnostics& diagnostics) const;
+  bool exportFiles(Output& output, Diagnostics& diagnostics) const;
   int diff(Output& output, Diagnostics& diagnostics) const;
   PacketFilter filter() const;
   DecodeOptions decodeOptions() const;
@@ -54,6 +56,7 @@ class CommandLine {
   std::string where_;
   std::string columns_;
   std::string capture_;
+  std::string database_;
   ColorChoice color_ = ColorChoice::AUTO;
   bool asJson_ = false;
   bool asPretty_ = false;
@@ -61,6 +64,7 @@ class CommandLine {
   bool asHex_ = false;
   bool follows_ = false;
   bool showsSecrets_ = false;
+  bool replaces_ = false;
 };
 
 }  // namespace Tessel

@@ -23,6 +23,8 @@ Diagnostics::Diagnostics()
     : wantsProgress_(isatty(STDERR_FILENO) != 0 && isatty(STDOUT_FILENO) == 0),
       nextLine_(Clock::now() + FIRST_LINE_AFTER) {}
 
+void Diagnostics::expectNoOutput() { wantsProgress_ = isatty(STDERR_FILENO) != 0; }
+
 void Diagnostics::complain(std::string_view text) {
   clearProgress();
   // Where both streams end in one file, the complaint stands behind the lines before it. Output notices a failure.

@@ -19,6 +19,9 @@ class Diagnostics {
 
   void complain(std::string_view text);
 
+  /// Shows progress also where standard output is the terminal.
+  void expectNoOutput();
+
   /// Whether it is time for a new line of progress; asked for every packet.
   bool isProgressDue(std::uint64_t packets) const;
   /// The share of the capture that has been read is from 0 to 1.
