@@ -29,12 +29,14 @@ class CommandLine {
   void addStats();
   void addDiff();
   void addSchema();
+  void addReport();
   void addFiles(CLI::App& subcommand);
   void addFilter(CLI::App& subcommand);
   void addAppearance(CLI::App& subcommand);
 
   bool decode(Output& output, Diagnostics& diagnostics) const;
   int diff(Output& output, Diagnostics& diagnostics) const;
+  bool report(Output& output, Diagnostics& diagnostics) const;
   PacketFilter filter() const;
   DecodeOptions decodeOptions() const;
   CaptureCall captures() const { return {files_, follows_}; }
@@ -54,6 +56,7 @@ class CommandLine {
   std::string where_;
   std::string columns_;
   std::string capture_;
+  std::string page_;
   ColorChoice color_ = ColorChoice::AUTO;
   bool asJson_ = false;
   bool asPretty_ = false;

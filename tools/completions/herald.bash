@@ -6,7 +6,7 @@ _herald() {
   COMPREPLY=()
 
   if [ "$COMP_CWORD" = 1 ]; then
-    mapfile -t COMPREPLY < <(compgen -W "decode encode stats diff ids catalogue schema -h --help --version" -- "$current")
+    mapfile -t COMPREPLY < <(compgen -W "decode encode stats diff report ids catalogue schema -h --help --version" -- "$current")
     return
   fi
   case $previous in
@@ -30,6 +30,7 @@ _herald() {
     encode) options+=" -o --output --hex" ;;
     stats) options+=" $filters" ;;
     diff) options+=" $filters $appearance" ;;
+    report) options+=" $filters --secrets -o --output" ;;
   esac
   if [[ $current == -* ]]; then
     mapfile -t COMPREPLY < <(compgen -W "$options" -- "$current")
