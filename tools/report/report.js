@@ -281,9 +281,10 @@ function searchText(i) {
   return searched[i] = parts.join("\n").toLowerCase();
 }
 
-// Words, and phrases in double quotes, that must all be there.
+// Words, and phrases in double quotes, that must all be there. #30 is one packet, not #300 as well.
 function wantedWords() {
-  return [...$("header input").value.toLowerCase().matchAll(/"([^"]*)"|(\S+)/g)].map(([, phrase, word]) => phrase ?? word).filter(Boolean);
+  const words = [...$("header input").value.toLowerCase().matchAll(/"([^"]*)"|(\S+)/g)].map(([, phrase, word]) => phrase ?? word);
+  return words.filter(Boolean).map((word) => /^#\d+$/.test(word) ? word + "\n" : word);
 }
 
 // A long search lets the page live, and ends when another begins.
@@ -440,6 +441,7 @@ function listClasses() {
     const name = make("td");
     const isRequest = packets.isToServer(first);
     name.append(make("span", isRequest ? "to-server" : "from-server", isRequest ? "→ " : "← "), packets.name(first));
+    name.title = packets.name(first);
     row.append(name, make("td", "", count), make("td", "", bytes), make("td", failed ? "failed" : "", failed));
     $("#classes tbody").append(row);
   }
