@@ -15,6 +15,7 @@
 #include "Output.h"
 #include "Stats.h"
 #include "export/Export.h"
+#include "report/Report.h"
 #include "schema/Schemas.h"
 
 namespace Tessel {
@@ -94,6 +95,16 @@ Examples:
   herald export --force monday.pcap.gz tuesday.pcap.gz week.db
   sqlite3 session.db 'SELECT class, count(*) FROM packets GROUP BY class')";
 
+constexpr const char* REPORT_HELP =
+    R"(Writes one page that shows the session in a browser and needs nothing beside itself:
+the messages of both directions in a chart, and the fields of each beside its
+bytes. Passwords stand as *** there, also in the bytes; bytes of requests that
+their fields do not tell are left out.
+
+Examples:
+  herald report session.pcap -o session.html
+  herald report --packets 4000- session.pcap.gz -o end-of-session.html)";
+
 constexpr const char* CATALOGUE_HELP = R"(Example:
   herald catalogue | grep -A 8 '^PlayerInfo$')";
 
@@ -130,6 +141,7 @@ CommandLine::CommandLine() : app_("Looks into captures of the messages of a poke
   addDiff();
   addSchema();
   addExport();
+  addReport();
   app_.add_subcommand("ids", "Print the ids of all messages and requests")->footer(IDS_HELP);
   app_.add_subcommand("catalogue", "Print every message, request and record with its fields")->footer(CATALOGUE_HELP);
   for (CLI::App* subcommand : app_.get_subcommands({})) subcommands_[subcommand->get_name()] = subcommand;
@@ -233,6 +245,16 @@ void CommandLine::addExport() {
   });
 }
 
+void CommandLine::addReport() {
+  CLI::App* report =
+      app_.add_subcommand("report", "Write a page that shows a capture in a browser")->footer(REPORT_HELP);
+  addFiles(*report);
+  addFilter(*report);
+  report->get_option("FILE")->required()->expected(1);
+  report->add_option("-o,--output", page_, "Write the page here; - is standard output")->required();
+  report->add_flag("--secrets", showsSecrets_, "Show passwords, too");
+}
+
 void CommandLine::parse(int argc, char** argv) {
   if (argc > 1) firstArgument_ = argv[1];
   app_.parse(argc, argv);
@@ -246,6 +268,7 @@ int CommandLine::run(Output& output, Diagnostics& diagnostics) const {
   if (isCalled("stats")) return statusOf(printStats(captures(), filter(), output, diagnostics));
   if (isCalled("export")) return statusOf(exportFiles(output, diagnostics));
   if (isCalled("diff")) return diff(output, diagnostics);
+  if (isCalled("report")) return statusOf(report(output, diagnostics));
   if (isCalled("ids"))
     printIds(output);
   else if (isCalled("schema"))
@@ -282,6 +305,12 @@ int CommandLine::diff(Output& output, Diagnostics& diagnostics) const {
       break;
   }
   return 2;
+}
+
+bool CommandLine::report(Output& output, Diagnostics& diagnostics) const {
+  const ReportOptions options{
+      .page = page_, .filter = filter(), .secrets = showsSecrets_ ? Secrets::SHOWN : Secrets::MASKED};
+  return writeReport(files_.front(), options, output, diagnostics);
 }
 
 PacketFilter CommandLine::filter() const {

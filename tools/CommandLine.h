@@ -30,6 +30,7 @@ class CommandLine {
   void addDiff();
   void addSchema();
   void addExport();
+  void addReport();
   void addFiles(CLI::App& subcommand);
   void addFilter(CLI::App& subcommand);
   void addAppearance(CLI::App& subcommand);
@@ -37,6 +38,7 @@ class CommandLine {
   bool decode(Output& output, Diagnostics& diagnostics) const;
   bool exportFiles(Output& output, Diagnostics& diagnostics) const;
   int diff(Output& output, Diagnostics& diagnostics) const;
+  bool report(Output& output, Diagnostics& diagnostics) const;
   PacketFilter filter() const;
   DecodeOptions decodeOptions() const;
   CaptureCall captures() const { return {files_, follows_}; }
@@ -57,6 +59,7 @@ class CommandLine {
   std::string columns_;
   std::string capture_;
   std::string database_;
+  std::string page_;
   ColorChoice color_ = ColorChoice::AUTO;
   bool asJson_ = false;
   bool asPretty_ = false;

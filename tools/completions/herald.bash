@@ -6,7 +6,7 @@ _herald() {
   COMPREPLY=()
 
   if [ "$COMP_CWORD" = 1 ]; then
-    mapfile -t COMPREPLY < <(compgen -W "decode encode stats diff ids catalogue schema export -h --help --version" -- "$current")
+    mapfile -t COMPREPLY < <(compgen -W "decode encode stats diff report ids catalogue schema export -h --help --version" -- "$current")
     return
   fi
   case $previous in
@@ -31,6 +31,7 @@ _herald() {
     stats) options+=" $filters" ;;
     diff) options+=" $filters $appearance" ;;
     export) options+=" $filters --secrets --force" ;;
+    report) options+=" $filters --secrets -o --output" ;;
   esac
   if [[ $current == -* ]]; then
     mapfile -t COMPREPLY < <(compgen -W "$options" -- "$current")
