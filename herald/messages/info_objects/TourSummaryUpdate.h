@@ -3,6 +3,7 @@
 #include <herald/messages/info_objects/TourSummaryAttributes.h>
 #include <herald/platform/keystone/BitMasking.h>
 #include <herald/platform/tableau/PlayerRegistrationStatus.h>
+#include <herald/platform/tableau/TournamentStatus.h>
 
 #include <cstdint>
 
