@@ -112,6 +112,7 @@ void Room::ended(Session& session) {
   playersBySession_.erase(session.id());
   if (member == nullptr) return;
   member->session.reset();
+  member->lastSeen = std::chrono::steady_clock::now();
   member->nodes.clear();
   if (member->table != nullptr) member->table->unlisten(member->person.id);
   if (member->tournament != nullptr) member->tournament->unlisten(member->person.id);
@@ -439,7 +440,11 @@ bool Room::isHandRunning() const {
 }
 
 bool Room::isEveryoneConnected() const {
-  return std::ranges::all_of(members_, [this](const auto& member) { return isConnected(member.first); });
+  constexpr auto LONG = std::chrono::seconds(8);
+  return std::ranges::all_of(members_, [&](const auto& entry) {
+    const auto& [id, member] = entry;
+    return isConnected(id) || (!member.session && std::chrono::steady_clock::now() - member.lastSeen > LONG);
+  });
 }
 
 void Room::sayGoodBye() {

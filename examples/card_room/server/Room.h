@@ -4,6 +4,7 @@
 #include <herald/messages/TournamentLobbyRequests.h>
 
 #include <asio.hpp>
+#include <chrono>
 #include <cstdint>
 #include <list>
 #include <map>
@@ -44,6 +45,7 @@ class Room : public Session::Owner, public Clients {
   /// No hand begins any more.
   void close();
   bool isHandRunning() const;
+  /// But for those who have been gone for long.
   bool isEveryoneConnected() const;
   /// The last word to all who are connected.
   void sayGoodBye();
@@ -63,6 +65,7 @@ class Room : public Session::Owner, public Clients {
     std::int64_t account = 0;  ///< what is at no table, in cents
     int ping = 0;              ///< in milliseconds
     std::shared_ptr<Session> session{};
+    std::chrono::steady_clock::time_point lastSeen{};  ///< when the connection ended
     LiveTable* table = nullptr;
     SitAndGo* tournament = nullptr;
     std::set<int> nodes{};  ///< to whose news the client has subscribed
