@@ -35,8 +35,8 @@ int messageId(std::string_view messageClass);
 
 template <class Message>
 int messageId() {
-  static const int ID = messageId(Tessel::typeName<Message>());
-  return ID;
+  static const int id = messageId(Tessel::typeName<Message>());
+  return id;
 }
 
 /// What a table and a tournament have in common: they tell their audience what happens.

@@ -20,7 +20,7 @@ using Tessel::LimitTypes::AllowedLimitType;
 enum Unit { EURO = 1, DOLLAR = 2, PLAY_CHIPS = 3, TOURNAMENT_CHIPS = 4 };
 
 struct Person {
-  int id;
+  int id = -1;
   std::wstring nick;
   std::wstring city;
 };

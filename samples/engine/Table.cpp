@@ -62,8 +62,8 @@ BestHand bestHandOf(const Player& player, const Cards& board) {
 
 }  // namespace
 
-Table::Table(Audience& audience, const Game& game, std::list<Player> players, std::uint32_t seed)
-    : Teller(audience), game_(game), players_(std::move(players)), dice_(seed) {}
+Table::Table(Audience& audience, Game game, std::list<Player> players, std::uint32_t seed)
+    : Teller(audience), game_(std::move(game)), players_(std::move(players)), dice_(seed) {}
 
 const Player* Table::find(int id) const {
   const auto found = std::ranges::find(players_, id, [](const Player& player) { return player.person.id; });

@@ -63,7 +63,7 @@ struct Player {
 /// sum of all accounts, stacks, bets, the pot and the rake is tested before each message.
 class Table : public Teller {
  public:
-  Table(Audience& audience, const Game& game, std::list<Player> players, std::uint32_t seed);
+  Table(Audience& audience, Game game, std::list<Player> players, std::uint32_t seed);
 
   const Game& game() const { return game_; }
   Player& player(const Person& person) { return player(person.id); }

@@ -208,7 +208,7 @@ void Tournament::tellTables(const std::vector<int>& listeners, const std::vector
     rankings.push_back(Body().i32(table).fields(rankedList(entrants)));
   }
   const Body list = Body().list<std::int16_t>(infos).list<std::int16_t, std::int32_t>(closed);
-  tellSome<LobbyTableList>(listeners, [&](int) { return list; });
+  tellSome<LobbyTableList>(listeners, [&](int) -> const Body& { return list; });
   for (const Body& ranking : rankings) tellSome<LobbyTablePlayerList>(listeners, [&](int) { return ranking; });
 }
 

@@ -19,7 +19,7 @@ namespace CardRoom {
 /// in play and the prize pool are what the players have bought.
 class Tournament : public Teller {
  public:
-  Tournament(Audience& audience, const TournamentSummary& summary) : Teller(audience), summary_(summary) {}
+  Tournament(Audience& audience, TournamentSummary summary) : Teller(audience), summary_(std::move(summary)) {}
 
   /// As the listener sees it.
   TournamentSummary summaryFor(int listener) const;

@@ -18,7 +18,7 @@ namespace {
 std::string schema(const std::string& arguments) {
   std::FILE* output = popen((HERALD_COMMAND " schema " + arguments).c_str(), "r");
   std::string text;
-  std::array<char, 65536> buffer;
+  std::array<char, 65536> buffer{};
   for (std::size_t size = 1; size > 0;) {
     size = std::fread(buffer.data(), 1, buffer.size(), output);
     text.append(buffer.data(), size);

@@ -5,7 +5,7 @@ programs=$1
 folder=$(mktemp -d)
 trap 'rm -rf "$folder"' EXIT
 
-timeout 60 "$programs/card_room_server" --port 0 --seconds 4 --pause 20 --ledger "$folder/server" \
+timeout 60 "$programs/card_room_server" --port 0 --seconds 10 --pause 20 --ledger "$folder/server" \
   >"$folder/out" 2>"$folder/err" &
 server=$!
 for _ in $(seq 100); do

@@ -15,8 +15,8 @@ void TableHandler::handle(const GameStateInfoMsg& message) { table_.show(message
 
 void TableHandler::handle(const ClientNewRound& message) {
   const NewRoundInfo& hand = message.getNewRoundInfo();
-  std::vector<bool> isPlaying;
-  for (int seat = 0; seat < hand.getNrOfPlayers(); ++seat) isPlaying.push_back(hand.getPlayer(seat));
+  std::vector<bool> isPlaying(static_cast<std::size_t>(hand.getNrOfPlayers()));
+  for (std::size_t seat = 0; seat < isPlaying.size(); ++seat) isPlaying[seat] = hand.getPlayer(static_cast<int>(seat));
   table_.startHand(hand.getHandNumber(), isPlaying);
 }
 

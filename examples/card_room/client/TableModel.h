@@ -52,7 +52,7 @@ struct TableModel {
   void bet(const Tessel::CreditInfo& credit, const std::wstring& move);
   void betDead(const Tessel::CreditInfo& credit);
   void betToPot(const Tessel::CreditInfo& credit);
-  void win(const Tessel::WinPotInfo& pot);
+  void win(const Tessel::WinPotInfo& won);
   void fold(int seat);
   void takeRake(std::int64_t total);
   void dealt(const Tessel::CardsInfo& cards);

@@ -1,4 +1,5 @@
 #pragma once
+#include <algorithm>
 #include <initializer_list>
 #include <map>
 #include <stdexcept>
@@ -14,9 +15,7 @@ class Options {
   Options(int argc, char** argv, std::initializer_list<std::string_view> withValue,
           std::initializer_list<std::string_view> flags) {
     const auto isOneOf = [](auto names, std::string_view name) {
-      for (const std::string_view one : names)
-        if (one == name) return true;
-      return false;
+      return std::ranges::find(names, name) != names.end();
     };
     for (int i = 1; i < argc; ++i) {
       const std::string name = argv[i];

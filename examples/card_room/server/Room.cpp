@@ -42,6 +42,7 @@ std::int64_t milliseconds() {
 
 std::vector<Game> ringGames(int count) {
   std::vector<Game> games;
+  games.reserve(static_cast<std::size_t>(count));
   for (int i = 0; i < count; ++i)
     games.push_back({.id = FIRST_TABLE + i, .name = format(L"Table %d", i + 1), .bigBlind = 100, .maxPlayers = 6});
   return games;

@@ -55,7 +55,7 @@ void Session::received(std::span<const std::uint8_t> bytes) {
   }
 }
 
-void Session::record(const RequestFrames::Frame& frame) {
+void Session::record(const RequestFrames::Frame& frame) const {
   if (surroundings_.recorder == nullptr) return;
   ByteStream whole;
   whole << static_cast<std::int16_t>(frame.id) << static_cast<std::int16_t>(frame.body.size());

@@ -52,7 +52,7 @@ class Session : public std::enable_shared_from_this<Session> {
 
   void read();
   void received(std::span<const std::uint8_t> bytes);
-  void record(const Tessel::RequestFrames::Frame& frame);
+  void record(const Tessel::RequestFrames::Frame& frame) const;
   void enqueue(int messageId, std::span<const std::uint8_t> body);
   void sendDamaged(int messageId, std::span<const std::uint8_t> body);
   void sendHalf(int messageId, std::span<const std::uint8_t> body);
