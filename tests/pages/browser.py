@@ -50,6 +50,16 @@ class Browser:
         self._profile.cleanup()
 
     def call(self, method, **parameters):
+        number = self._send(method, parameters)
+        while True:
+            answer = self._receive()
+            if answer.get("id") != number:
+                continue
+            if "error" in answer:
+                raise RuntimeError(f"{method}: {answer['error']['message']}")
+            return answer["result"]
+
+    def _send(self, method, parameters):
         self._number += 1
         message = {"id": self._number, "method": method, "params": parameters}
         if self._session:
@@ -57,13 +67,7 @@ class Browser:
         data = json.dumps(message).encode() + b"\0"
         while data:
             data = data[os.write(self._commands, data) :]
-        while True:
-            answer = self._receive()
-            if answer.get("id") != self._number:
-                continue
-            if "error" in answer:
-                raise RuntimeError(f"{method}: {answer['error']['message']}")
-            return answer["result"]
+        return self._number
 
     def open(self, file, timeout=60, anchor=""):
         """Opens a file and waits until it is loaded; answers the seconds from the call on."""
@@ -145,3 +149,4 @@ class Browser:
             self.complaints.append("fetched: " + event["request"]["url"][:100])
         elif method == "Page.javascriptDialogOpening":
             self.complaints.append("a dialogue: " + event["message"])
+            self._send("Page.handleJavaScriptDialog", {"accept": False})

@@ -31,7 +31,7 @@ constexpr std::string_view SCRIPT =
 constexpr std::string_view HEAD = R"(<!doctype html>
 <html lang="en">
 <meta charset="utf-8">
-<meta http-equiv="Content-Security-Policy" content="default-src 'none'; style-src 'unsafe-inline'; script-src 'unsafe-inline'">
+<meta http-equiv="Content-Security-Policy" content="default-src 'none'; style-src 'unsafe-inline'; script-src 'nonce-report'">
 <meta name="viewport" content="width=device-width, initial-scale=1">
 <title>Session</title>
 <style>
@@ -98,8 +98,8 @@ class Session {
       session["outcomes"].push_back(nameOf(static_cast<DecodeOutcome>(i)));
     return std::string(HEAD) + std::string(STYLE) + "</style>\n" + std::string(BODY)
            + element("session-data", "application/json", toScriptText(session))
-           + element("packets-data", "text/plain", base64(packets_.finish())) + "<script>\n" + std::string(SCRIPT)
-           + "</script>\n</html>\n";
+           + element("packets-data", "text/plain", base64(packets_.finish())) + "<script nonce=\"report\">\n"
+           + std::string(SCRIPT) + "</script>\n</html>\n";
   }
 
  private:

@@ -247,6 +247,7 @@ const withMeaning = (text, field) => field.meaning ? text + " (" + field.meaning
 
 function valueText(field) {
   if (isMasked(field)) return "***";
+  if (field.kind === "number" && field.value === "") return "missing";
   if (field.kind === "record") return field.value;
   if (field.kind === "list") return field.value + (field.value === "1" ? " item" : " items");
   return withMeaning(field.kind === "text" ? '"' + escaped(field.value) + '"' : field.value, field);
@@ -255,7 +256,7 @@ function valueText(field) {
 function summaryOf(i) {
   if (packets.hasFailed(i)) return outcomeText(i);
   const { fields } = fieldsOf(i, SUMMARY_FIELDS * 3);
-  return fields.filter(isLeaf).slice(0, SUMMARY_FIELDS).map((field) => field.name + "=" + valueText(field)).join("  ").slice(0, 300);
+  return fields.filter(isLeaf).slice(0, SUMMARY_FIELDS).map((field) => field.path.split(".").at(-1) + "=" + valueText(field)).join("  ").slice(0, 300);
 }
 
 function outcomeText(i) {
@@ -399,8 +400,8 @@ function drawRates() {
   $("#up").setAttribute("d", [...counts.up].map((count, bin) => bar(bin, 30, height(count))).join(""));
   $("#failures").setAttribute("d", [...counts.failures].map((count, bin) => count ? bar(bin, 0, 4) : "").join(""));
   const seconds = sessionDuration / 1e9 / BINS;
-  $("#scale").textContent = `Above the line what comes from servers, below it requests, failures at the top; the highest bar is ${most} in `
-    + `${seconds.toPrecision(3)} s (${(most / seconds).toPrecision(3)} a second). A click leads there.`;
+  const rate = packets.count > 1 && seconds > 1e-9 ? ` in ${seconds.toPrecision(3)} s (${(most / seconds).toPrecision(3)} a second)` : "";
+  $("#scale").textContent = `Above the line what comes from servers, below it requests, failures at the top; the highest bar is ${most}${rate}. A click leads there.`;
 }
 
 function drawWindow(first, last) {
