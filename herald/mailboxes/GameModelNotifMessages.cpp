@@ -2,8 +2,12 @@
 
 namespace Tessel {
 
+void* GameModelNotifMessage::operator new(std::size_t size) { return ::operator new(size); }
+
+void GameModelNotifMessage::operator delete(void* storage) { ::operator delete(storage); }
+
 void GameModelNotifMessage::operator delete(GameModelNotifMessage* message, std::destroying_delete_t) {
-  ::operator delete(static_cast<void*>(message));
+  operator delete(static_cast<void*>(message));
 }
 
 GameModelNotificationHandler::~GameModelNotificationHandler() = default;

@@ -2,6 +2,7 @@
 #include <herald/platform/keystone/Export.h>
 
 #include <concepts>
+#include <cstddef>
 #include <memory>
 #include <new>
 #include <type_traits>
@@ -52,6 +53,9 @@ class HERALD_API GameModelNotifMessage {
 
   int getGameId() const { return gameId_; }
 
+  /// As everywhere. That they are declared beside the one below keeps g++ from taking it for a mismatch with `new`.
+  static void* operator new(std::size_t size);
+  static void operator delete(void* storage);
   /// Deletes a message of any kind through a pointer to this base: there is nothing to destroy, only storage to free.
   static void operator delete(GameModelNotifMessage* message, std::destroying_delete_t);
 
