@@ -277,6 +277,7 @@ def main():
     with tempfile.TemporaryDirectory() as folder:
         checks = [
             check_samples(herald, dissector, captures, False),
+            check_samples(herald, dissector, captures, True),
             check_cut(herald, dissector, captures, folder),
             check_mutated(herald, dissector, captures, folder),
             check_bounds(dissector, folder),

@@ -11,14 +11,16 @@ namespace Tessel {
 
 namespace {
 
-// The members that every line has, then those of messages that a read made or did not.
+// What every line may have; its class says more of some members.
 constexpr std::string_view LINE = R"({
   "$schema": "https://json-schema.org/draft/2020-12/schema",
   "title": "A line of herald decode --json",
   "description": "A packet of a capture and the message or request that it holds. Numbers of the type int64 may be larger than what a double holds exactly.",
   "type": "object",
   "properties": {
+    "file": {"type": "string"},
     "packet": {"type": "integer", "minimum": 1},
+    "time": {"type": "string", "format": "date-time"},
     "direction": {"enum": ["fromServer", "toServer"]},
     "id": {"$ref": "#/$defs/short"},
     "class": {"type": ["string", "null"]},
@@ -26,9 +28,11 @@ constexpr std::string_view LINE = R"({
     "bytesRead": {"type": "integer", "minimum": 0},
     "bytes": {"type": "integer", "minimum": 0},
     "reason": {"type": "string"},
-    "message": {"type": ["object", "null"]}
+    "message": {"type": ["object", "null"]},
+    "hex": {"type": "string", "description": "The body of what its fields alone do not tell"}
   },
-  "required": ["packet", "direction", "id", "class", "bytes", "message"],
+  "required": ["packet", "time", "direction", "id", "class", "outcome", "bytesRead", "bytes", "message"],
+  "additionalProperties": false,
 )";
 
 // Members of an object, or elements of an array, one a line.

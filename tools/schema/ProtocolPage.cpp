@@ -160,6 +160,13 @@ std::string conditionText(const FieldCondition& condition, const RecordSchema& r
          + (isOne ? "" : " to " + code(std::to_string(condition.last)));
 }
 
+std::string valueNamesOf(const FieldSchema& field) {
+  std::string names;
+  for (const auto& [value, name] : field.valueNames)
+    names += (names.empty() ? "<br>" : ", ") + std::to_string(value) + " " + escape(name);
+  return names;
+}
+
 std::string pictureOf(const RecordSchema& record) {
   std::string picture = "<div class=\"picture\">";
   int offset = 0;
@@ -177,7 +184,7 @@ std::string fieldsOf(const RecordSchema& record) {
   if (record.fields.empty()) return "<p class=\"dim\">No body.</p>\n";
   std::string rows = "<div class=\"wide\"><table><tr><th>Field<th>Type<th>Bytes<th>New\n";
   for (const FieldSchema& field : record.fields) {
-    rows += "<tr><td>" + code(field.name) + "<td>" + typeText(field, record)
+    rows += "<tr><td>" + code(field.name) + "<td>" + typeText(field, record) + valueNamesOf(field)
             + (field.condition ? "<br>" + conditionText(*field.condition, record) : "") + "<td>" + widthText(field)
             + "<td>" + startText(field) + '\n';
   }
@@ -210,7 +217,10 @@ std::string bytesOf(const Example& example, const FieldPlace& place) {
 std::string valueOf(const FieldPlace& place) {
   if (place.field->isSecret) return code(MASK);
   if (place.field->kind == FieldKind::TEXT) return code("\"" + place.value + "\"");
-  return code(place.value) + (place.field->kind == FieldKind::LIST ? " items" : "");
+  if (place.field->kind == FieldKind::LIST) return code(place.value) + " items";
+  const auto named = std::ranges::find(place.field->valueNames, place.value,
+                                       [](const auto& name) { return std::to_string(name.first); });
+  return code(place.value) + (named != place.field->valueNames.end() ? " " + escape(named->second) : "");
 }
 
 // Empty when it would tell a secret.

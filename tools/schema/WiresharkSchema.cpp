@@ -50,6 +50,14 @@ std::string itemsOf(const FieldSchema& list, const RecordSchema& record) {
   return entry("class_from", quoted(record.fields[*list.tagField].name)) + ", items = {" + items + "\n    }";
 }
 
+std::string valuesOf(const FieldSchema& field) {
+  if (field.valueNames.empty()) return "";
+  std::string values;
+  for (const auto& [value, name] : field.valueNames)
+    values += (values.empty() ? "[" : ", [") + std::to_string(value) + "] = " + quoted(name);
+  return ", values = {" + values + "}";
+}
+
 std::string typeOf(const FieldSchema& field, const RecordSchema& record) {
   switch (field.kind) {
     case FieldKind::RECORD:
@@ -60,7 +68,7 @@ std::string typeOf(const FieldSchema& field, const RecordSchema& record) {
                                  : entry("count", quoted(nameOf(field.type))))
              + ", " + itemsOf(field, record);
     default:
-      return entry("type", quoted(nameOf(field.type))) + (field.isSecret ? ", secret = true" : "");
+      return entry("type", quoted(nameOf(field.type))) + (field.isSecret ? ", secret = true" : "") + valuesOf(field);
   }
 }
 

@@ -36,8 +36,9 @@ local MAKERS = {
   int64 = ProtoField.int64, string = ProtoField.string, record = ProtoField.none,
 }
 
-local function add_field(type, path, label)
-  local field = MAKERS[type]("herald." .. path, label)
+local function add_field(type, path, label, values)
+  local make = MAKERS[type]
+  local field = values and make("herald." .. path, label, base.DEC, values) or make("herald." .. path, label)
   table.insert(all_fields, field)
   return field
 end
@@ -80,7 +81,8 @@ local function step_of(field, path, label)
     step.items = {}
     for name, item in pairs(field.items or {}) do step.items[name] = record_alone(item.record) end
   elseif field.type ~= "record" then
-    step.field = add_field(field.type, path, label)
+    step.field = add_field(field.type, path, label, field.values)
+    step.values = field.values
   elseif holds_itself[field.record] then
     step.field = record_alone(field.record).field
     step.steps = record_alone(field.record).steps
@@ -121,7 +123,7 @@ end
 local function note(record, step, value)
   if not step.name then return end
   record[step.name] = value
-  local text = step.name .. "=" .. on_one_line(tostring(value))
+  local text = step.name .. "=" .. on_one_line(tostring(step.values and step.values[value] or value))
   while record and #record.shown < VALUES_IN_SUMMARY do
     table.insert(record.shown, text)
     record = record.within
