@@ -1,7 +1,6 @@
 #include "RowWriter.h"
 
 #include <algorithm>
-#include <ranges>
 #include <stdexcept>
 #include <utility>
 
@@ -133,9 +132,8 @@ Statement& RowWriter::insertionInto(const Table& table) {
 }
 
 const RowWriter::Row* RowWriter::innermost(const Table* table) const {
-  const auto rows = std::views::reverse(rows_);
-  const auto row = std::ranges::find(rows, table, &Row::table);
-  return row != rows.end() ? &*row : nullptr;
+  const auto row = std::ranges::find(rows_.rbegin(), rows_.rend(), table, &Row::table);
+  return row != rows_.rend() ? &*row : nullptr;
 }
 
 }  // namespace Tessel

@@ -42,8 +42,8 @@ class RowWriter final : public FieldSink {
 
   // A record or a list.
   struct Open {
-    const RecordColumns* record;
-    const FieldColumns* list;
+    const RecordColumns* record = nullptr;
+    const FieldColumns* list = nullptr;
     // The field of the record that comes next, or the index of the list's next item.
     std::size_t next = 0;
   };

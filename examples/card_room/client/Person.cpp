@@ -25,7 +25,7 @@ constexpr auto RED = L"\033[31m";
 constexpr auto GREEN = L"\033[32m";
 constexpr auto PLAIN = L"\033[0m";
 
-std::wstring right(std::wstring text, std::size_t width) {
+std::wstring right(const std::wstring& text, std::size_t width) {
   return text.size() < width ? std::wstring(width - text.size(), L' ') + text : text;
 }
 
