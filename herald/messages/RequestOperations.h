@@ -40,7 +40,7 @@ void EmptyRequest<Self, REQUEST_ID>::describe(FieldSink&) const {}
 
 template <class Self, short REQUEST_ID, class Record>
 bool RecordRequest<Self, REQUEST_ID, Record>::write(ByteStream& out) const {
-  return writeFrame(REQUEST_ID, static_cast<const Self&>(*this), out);
+  return writeFrame(REQUEST_ID, body_, out);
 }
 
 template <class Self, short REQUEST_ID, class Record>
