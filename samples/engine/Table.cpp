@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <deque>
+#include <limits>
 #include <map>
 #include <numeric>
 #include <set>
@@ -389,12 +390,14 @@ void Table::startBetting() {
   toAct_.assign(able.begin(), able.end());
 }
 
-// A player whom nobody can raise, and who has called, is not asked.
+// The last player with chips is not asked once nobody in the hand has bet more. (The others may be all in for less than
+// the big blind.)
 Player* Table::toAct() {
-  const bool isAlone = ableToBetAfter(dealerSeat_).size() == 1;
   if (toAct_.empty() || playersInHand() == 1) return nullptr;
-  Player* next = toAct_.front();
-  return isAlone && next->bet >= currentBet_ ? nullptr : next;
+  Player* const next = toAct_.front();
+  const auto hasBetMore = [next](const Player* player) { return player->bet > next->bet; };
+  const bool isAlone = ableToBetAfter(dealerSeat_).size() == 1;
+  return isAlone && std::ranges::none_of(inHandAfter(dealerSeat_), hasBetMore) ? nullptr : next;
 }
 
 void Table::askMove() {
@@ -626,7 +629,9 @@ std::vector<Table::Pot> Table::pots() {
   std::int64_t below = 0;
   for (const std::int64_t level : levels) {
     Pot& pot = pots.emplace_back();
-    for (const Player& player : players_) pot.amount += std::min(player.paid, level) - std::min(player.paid, below);
+    // Whatever those paid who have folded is in the last pot at the latest.
+    const std::int64_t limit = level == *levels.rbegin() ? std::numeric_limits<std::int64_t>::max() : level;
+    for (const Player& player : players_) pot.amount += std::min(player.paid, limit) - std::min(player.paid, below);
     std::ranges::copy_if(players, std::back_inserter(pot.contenders),
                          [&](const Player* player) { return player->paid >= level; });
     below = level;

@@ -13,12 +13,7 @@ namespace CardRoom {
 
 void TableHandler::handle(const GameStateInfoMsg& message) { table_.show(message.getGameStateInfo()); }
 
-void TableHandler::handle(const ClientNewRound& message) {
-  const NewRoundInfo& hand = message.getNewRoundInfo();
-  std::vector<bool> isPlaying(static_cast<std::size_t>(hand.getNrOfPlayers()));
-  for (std::size_t seat = 0; seat < isPlaying.size(); ++seat) isPlaying[seat] = hand.getPlayer(static_cast<int>(seat));
-  table_.startHand(hand.getHandNumber(), isPlaying);
-}
+void TableHandler::handle(const ClientNewRound& message) { table_.startHand(message.getNewRoundInfo()); }
 
 void TableHandler::handle(const ClientSetDealerToken& message) { table_.dealer = message.getDealer().getSeat(); }
 

@@ -41,8 +41,8 @@ void TableModel::show(const PokerGameStateInfo& state) {
   for (auto& [number, seat] : seats) seat.isInHand = !seat.cards.empty();
 }
 
-void TableModel::startHand(int number, const std::vector<bool>& isPlaying) {
-  hand = number;
+void TableModel::startHand(const NewRoundInfo& started) {
+  hand = started.getHandNumber();
   pot = rake = 0;
   toAct = -1;
   board.clear();
@@ -50,8 +50,7 @@ void TableModel::startHand(int number, const std::vector<bool>& isPlaying) {
     seat.bet = 0;
     seat.cards.clear();
     seat.lastMove.clear();
-    const auto place = static_cast<std::size_t>(seatNumber);
-    seat.isInHand = place < isPlaying.size() && isPlaying[place];
+    seat.isInHand = seatNumber >= 0 && seatNumber < started.getNrOfPlayers() && started.getPlayer(seatNumber);
   }
 }
 

@@ -2,6 +2,7 @@
 #include <herald/dispatch/AbstractClientMessageHandler.h>
 #include <herald/messages/info_objects/CardsInfo.h>
 #include <herald/messages/info_objects/CreditInfo.h>
+#include <herald/messages/info_objects/NewRoundInfo.h>
 #include <herald/messages/info_objects/PlayerInGameInfo.h>
 #include <herald/messages/info_objects/PokerGameStateInfo.h>
 #include <herald/messages/info_objects/WinPotInfo.h>
@@ -45,7 +46,7 @@ struct TableModel {
   std::map<int, Seat> seats;
 
   void show(const Tessel::PokerGameStateInfo& state);
-  void startHand(int number, const std::vector<bool>& isPlaying);
+  void startHand(const Tessel::NewRoundInfo& started);
   void sitDown(int seat, const Tessel::PlayerInGameInfo& player);
   void standUp(int player);
   void setMoney(const Tessel::PlayerInGameInfo& player);
