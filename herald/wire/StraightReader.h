@@ -3,6 +3,7 @@
 #include <herald/platform/keystone/List.h>
 #include <herald/platform/keystone/TsArray.h>
 #include <herald/platform/keystone/UTFEncoder.h>
+#include <herald/wire/Inlining.h>
 #include <herald/wire/MessageMemory.h>
 #include <herald/wire/Text.h>
 #include <herald/wire/WireSizer.h>
@@ -10,17 +11,6 @@
 
 #include <cassert>
 #include <vector>
-
-// Functions that must become part of their callers for a layout to be read in registers, and those that must not.
-#if defined(__GNUC__)
-#define HERALD_IN_LINE [[gnu::always_inline]] inline
-#define HERALD_FLATTEN [[gnu::flatten]]
-#define HERALD_OUT_OF_LINE [[gnu::noinline]]
-#else
-#define HERALD_IN_LINE inline
-#define HERALD_FLATTEN
-#define HERALD_OUT_OF_LINE
-#endif
 
 namespace Tessel {
 

@@ -1,6 +1,7 @@
 #pragma once
 #include <herald/platform/keystone/ByteStream.h>
 #include <herald/platform/keystone/UTFEncoder.h>
+#include <herald/wire/Inlining.h>
 #include <herald/wire/LayoutVisitor.h>
 #include <herald/wire/Text.h>
 
@@ -47,7 +48,7 @@ class WireWriter : public LayoutVisitor<WireWriter> {
     to_ += sizeof(T);
   }
 
-  void text(const Text& value) {
+  HERALD_IN_LINE void text(const Text& value) {
     if (value.isShortAscii()) [[likely]] {
       number(static_cast<std::int16_t>(value.copyShort(to_ + sizeof(std::int16_t))));
       to_ += value.size() - sizeof(std::int16_t);
@@ -61,7 +62,7 @@ class WireWriter : public LayoutVisitor<WireWriter> {
   }
 
   template <WireText T>
-  void longText(const T& value) {
+  HERALD_OUT_OF_LINE void longText(const T& value) {
     const std::string_view utf8 = value.getUTF8();
     if (!UTFEncoder::copyEncodable(utf8, to_ + sizeof(std::uint16_t))) {
       if constexpr (std::same_as<T, Text>) {
