@@ -8,12 +8,12 @@
 #include <iostream>
 #include <memory>
 #include <optional>
-#include <thread>
 
 #include "../common/Options.h"
 #include "../common/QuietSink.h"
 #include "Bot.h"
 #include "Client.h"
+#include "NetworkThread.h"
 #include "Person.h"
 #include "Terminal.h"
 
@@ -44,14 +44,13 @@ class BotHouse {
   bool run() {
     constexpr int WAIT_MS = 200;
     for (const auto& client : clients_) client->start();
-    const auto keepRunning = asio::make_work_guard(io_);
-    std::thread network([this] { io_.run(); });
-    while (!std::ranges::all_of(clients_, &Client::isOver)) {
-      office_.waitForMail(WAIT_MS);
-      for (const auto& client : clients_) client->work();
+    {
+      const NetworkThread network(io_);
+      while (!std::ranges::all_of(clients_, &Client::isOver)) {
+        office_.waitForMail(WAIT_MS);
+        for (const auto& client : clients_) client->work();
+      }
     }
-    io_.stop();
-    network.join();
     for (const auto& client : clients_) client->work();
     return isInOrder();
   }
@@ -92,9 +91,8 @@ class Evening {
   bool run() {
     constexpr int WAIT_MS = 200;
     client_->start();
-    const auto keepRunning = asio::make_work_guard(io_);
-    std::thread network([this] { io_.run(); });
     {
+      const NetworkThread network(io_);
       Terminal terminal(keys_);
       while (!client_->isOver()) {
         office_.waitForMail(WAIT_MS);
@@ -104,8 +102,6 @@ class Evening {
         terminal.show(person_.screen(*client_, Terminal::size()));
       }
     }
-    io_.stop();
-    network.join();
     std::cout << Tessel::UTFEncoder::toUTF8(client_->status()) << '\n';
     return true;
   }

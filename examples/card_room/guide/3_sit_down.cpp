@@ -10,12 +10,13 @@
 #include <herald/platform/keystone/BugReporter.h>
 #include <herald/platform/keystone/UTFEncoder.h>
 
+#include <exception>
 #include <iostream>
 #include <memory>
-#include <thread>
 #include <utility>
 
 #include "../client/Connection.h"
+#include "../client/NetworkThread.h"
 #include "../client/TableModel.h"
 #include "../common/QuietSink.h"
 
@@ -82,7 +83,7 @@ class Events : public ServerViewMessageHandler, public ConnectionStatusMessageHa
   static void tell(const ConnectionFailed& event) { std::cout << UTFEncoder::toUTF8(event.getMessage()) << '\n'; }
 };
 
-int main(int argc, char** argv) {
+int main(int argc, char** argv) try {
   BugReporter::getInstance().setSink(std::make_shared<CardRoom::QuietSink>());
   asio::io_context io;
   PostOffice office;
@@ -95,8 +96,7 @@ int main(int argc, char** argv) {
   Connection connection(io, settings, messages, events);
   connection.open();
 
-  const auto keepRunning = asio::make_work_guard(io);
-  std::thread network([&] { io.run(); });
+  const CardRoom::NetworkThread network(io);
 
   Guest guest(connection);
   Events eventTeller;
@@ -105,7 +105,8 @@ int main(int argc, char** argv) {
     for (const auto& event : events.pickupAll()) event->handle(eventTeller);
     for (auto& message : messages.pickupAll()) AbstractClientMessageHandler::handle(guest, std::move(message));
   }
-  io.stop();
-  network.join();
   return guest.isSeated ? 0 : 1;
+} catch (const std::exception& failure) {
+  std::cerr << failure.what() << '\n';
+  return 1;
 }
