@@ -89,12 +89,12 @@ void Client::handle(const ClientDataMessage&) {}
 void Client::handle(const ConnectionRegistration&) { status_ = L"Connected"; }
 
 void Client::handle(const ConnectionOK& event) {
+  ++loginCount_;
   me_ = event.getUser();
   status_ = L"Logged in as " + me_.getNickName();
 }
 
 void Client::handle(const ConnectionUpdate& event) {
-  ++reconnectCount_;
   status_ = format(L"%s Attempt %d to connect again", event.getMessage(), event.getReconnectAttempts());
 }
 

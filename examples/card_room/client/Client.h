@@ -102,7 +102,7 @@ class Client : public TableHandler,
 
   int postedCount() const { return connection_.postedCount(); }
   int deliveredCount() const { return deliveredCount_; }
-  int reconnectCount() const { return reconnectCount_; }
+  int loginCount() const { return loginCount_; }
   bool isMailLeft() const { return !messages_.isEmpty() || !events_.isEmpty() || !commands_.isEmpty(); }
 
   using TableHandler::handle;
@@ -183,7 +183,7 @@ class Client : public TableHandler,
   std::wstring news_;
   bool isOver_ = false;
   int deliveredCount_ = 0;
-  int reconnectCount_ = 0;
+  int loginCount_ = 0;
 };
 
 }  // namespace CardRoom

@@ -59,15 +59,15 @@ class BotHouse {
   bool isInOrder() const {
     int posted = 0;
     int delivered = 0;
-    int reconnects = 0;
+    int logins = 0;
     bool isMailLeft = office_.getMailCount() != 0;
     for (const auto& client : clients_) {
       posted += client->postedCount();
       delivered += client->deliveredCount();
-      reconnects += client->reconnectCount();
+      logins += client->loginCount();
       isMailLeft |= client->isMailLeft();
     }
-    std::cout << "bots " << clients_.size() << ", messages " << delivered << ", connected again " << reconnects << '\n';
+    std::cout << "bots " << clients_.size() << ", messages " << delivered << ", logins " << logins << '\n';
     if (isMailLeft) std::cout << "mail is left\n";
     if (posted != delivered) std::cout << posted << " messages were posted\n";
     return !isMailLeft && posted == delivered;
