@@ -31,6 +31,7 @@ void SitAndGo::enter(const Person& person) {
   entrants_.push_back(person);
   money_ += TournamentSummary::BUY_IN;
   tournament_.enter(person);
+  tournament_.tellProgress();
   events_.changed(*this);
   if (entrants_.size() == PLAYERS_PER_TABLE) start();
 }
@@ -39,6 +40,7 @@ void SitAndGo::withdraw(const Person& person) {
   std::erase_if(entrants_, [&](const Person& entrant) { return entrant.id == person.id; });
   money_ -= TournamentSummary::BUY_IN;
   tournament_.withdraw(person);
+  tournament_.tellProgress();
   events_.changed(*this);
 }
 
@@ -58,6 +60,7 @@ void SitAndGo::start() {
     table.sitIn(entrant, false);
   }
   tournament_.start();
+  tournament_.tellProgress();
   events_.changed(*this);
   table_->play();
 }
