@@ -5,6 +5,7 @@ programs=$1
 folder=$(mktemp -d)
 trap 'rm -rf "$folder"' EXIT
 
+: >"$folder/out"  # so that it is there to be read, however late the server starts
 timeout 60 "$programs/card_room_server" --port 0 --seconds 10 --pause 20 --ledger "$folder/server" \
   >"$folder/out" 2>"$folder/err" &
 server=$!
