@@ -8,6 +8,7 @@
 #include <iostream>
 #include <memory>
 #include <optional>
+#include <random>
 
 #include "../common/Options.h"
 #include "../common/QuietSink.h"
@@ -79,13 +80,29 @@ class BotHouse {
   std::vector<std::unique_ptr<Client>> clients_;
 };
 
+/// A program that plays while a person looks on.
+class Autopilot : public Pilot {
+ public:
+  explicit Autopilot(Person& person) : person_(person) {}
+
+  void inLobby(Client& client) override { bot_.inLobby(client); }
+  void toMove(Client& client, const Tessel::PlayerActionsInfo& actions) override { bot_.toMove(client, actions); }
+  void handEnded(Client& client) override { bot_.handEnded(client); }
+  void follows(Tessel::SpecificTournamentModel* tournament) override { person_.follows(tournament); }
+
+ private:
+  Person& person_;
+  Bot bot_{std::random_device()(), false};
+};
+
 /// One player, with a table in the terminal.
 class Evening {
  public:
   Evening(const Options& options, Client::Settings settings) {
     const std::string nick = options.text("--nick", "Marigold");
     settings.connection.login = LoginRequest(Tessel::UTFEncoder::toWide(nick), L"Utrecht");
-    client_ = std::make_unique<Client>(io_, office_, settings, person_);
+    Pilot& pilot = options.has("--bot") ? static_cast<Pilot&>(autopilot_) : person_;
+    client_ = std::make_unique<Client>(io_, office_, settings, pilot);
   }
 
   bool run() {
@@ -111,6 +128,7 @@ class Evening {
   PostOffice office_;
   KeyMailBox keys_{&office_};
   Person person_;
+  Autopilot autopilot_{person_};
   std::unique_ptr<Client> client_;
 };
 
@@ -118,11 +136,11 @@ class Evening {
 
 int main(int argc, char** argv) {
   constexpr auto USAGE =
-      "usage: card_room_client [--host NAME] [--port N] [--nick NAME] [--record FILE]\n"
+      "usage: card_room_client [--bot] [--host NAME] [--port N] [--nick NAME] [--record FILE]\n"
       "       card_room_client --bots N [--first NUMBER] [--host NAME] [--port N] [--record FILE] [--ledger FILE]\n";
   try {
-    const Options options(argc, argv,
-                          {"--host", "--port", "--nick", "--record", "--bots", "--first", "--ledger", "--lose"}, {});
+    const Options options(
+        argc, argv, {"--host", "--port", "--nick", "--record", "--bots", "--first", "--ledger", "--lose"}, {"--bot"});
     Tessel::BugReporter::getInstance().setSink(std::make_shared<QuietSink>());
     std::optional<Recorder> recorder;
     std::optional<Ledger> ledger;
