@@ -12,7 +12,7 @@
 namespace Tessel {
 
 /// What `read` answers for a message whose body is one record.
-enum class ReadResult { OF_RECORD, ALWAYS_TRUE };
+enum class HERALD_VISIBLE ReadResult { OF_RECORD, ALWAYS_TRUE };
 
 /// A message without a body. Self::TEXT is its debug text.
 template <class Self>

@@ -46,8 +46,9 @@ void expectCopies(std::unique_ptr<T> object, const GoldenCase& golden) {
   expectValues(copy, golden);
   expectValues(assigned, golden);
   if (!clone) return;
-  expectValues(*clone, golden);
-  EXPECT_EQ(typeid(*clone), typeid(T));
+  const ReadableObjectInfo& cloned = *clone;
+  expectValues(cloned, golden);
+  EXPECT_EQ(typeid(cloned), typeid(T));
 }
 
 // The handler interface names classes that are requests, and two that applications define.

@@ -138,6 +138,9 @@ class Client : public TableHandler,
   /// A table is open when both have come.
   enum Condition : unsigned int { STATE_HAS_COME, INFORMATION_HAS_COME, CONDITION_COUNT };
 
+  using LobbyController::handle;
+  using Tessel::ConnectionStatusMessageHandler::handle;
+  using Tessel::ServerViewMessageHandler::handle;
   void handle(const Tessel::ConnectionStatusMessage& message) override;
   void handle(const Tessel::ClientDataMessage& message) override;
   void handle(const Tessel::ConnectionOK& event) override;

@@ -20,3 +20,10 @@
 #else
 #define HERALD_API __attribute__((visibility("default")))
 #endif
+
+// What is no class, but an argument of templates that are exported: with clang these are as visible as it is.
+#if defined(HERALD_STATIC) || defined(_WIN32)
+#define HERALD_VISIBLE
+#else
+#define HERALD_VISIBLE HERALD_API
+#endif
