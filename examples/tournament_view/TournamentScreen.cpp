@@ -15,11 +15,11 @@ constexpr int LABEL_WIDTH = 12;
 
 std::wstring blindsOf(const TournamentLevelInformation& level) {
   if (level.getLevelNumber() == -1) return L"-";
-  std::wstring text = format(L"%d", level.getLevelNumber());
+  std::wstring text = formatText(L"%d", level.getLevelNumber());
   if (level.hasBlinds())
-    text +=
-        format(L" (%s/%s)", level.getBlinds().getSmallBlind().toString(), level.getBlinds().getBigBlind().toString());
-  if (level.hasAnte()) text += format(L" ante %s", level.getAnte().getAnte().toString());
+    text += formatText(L" (%s/%s)", level.getBlinds().getSmallBlind().toString(),
+                       level.getBlinds().getBigBlind().toString());
+  if (level.hasAnte()) text += formatText(L" ante %s", level.getAnte().getAnte().toString());
   return text;
 }
 
@@ -27,7 +27,7 @@ std::wstring breakText(const TournamentBreakModel& breaks) {
   if (!breaks.hasValidInfo()) return L"nothing known";
   if (breaks.isOnBreak()) return L"on a break";
   if (!breaks.hasMoreBreaks()) return L"no more breaks";
-  return format(L"next one of %d seconds", breaks.getNextBreakDuration().getSeconds());
+  return formatText(L"next one of %d seconds", breaks.getNextBreakDuration().getSeconds());
 }
 
 std::wstring rankingText(const TournamentPlayerRankingModel& ranking) {
@@ -37,7 +37,7 @@ std::wstring rankingText(const TournamentPlayerRankingModel& ranking) {
     RankedPlayer player;
     if (!ranking.getRankedPlayer(rank, player)) continue;
     if (!text.empty()) text += L", ";
-    text += format(L"%d. %s %s", rank, player.getName(), player.getChipStack().toString());
+    text += formatText(L"%d. %s %s", rank, player.getName(), player.getChipStack().toString());
   }
   return text.empty() ? L"-" : text;
 }
@@ -45,14 +45,14 @@ std::wstring rankingText(const TournamentPlayerRankingModel& ranking) {
 std::wstring userText(const SpecificTournamentModel& model) {
   const TournamentPlayerRankingModel ranking = model.getPlayerRankingInformation();
   if (!ranking.hasUserRanking()) return L"not ranked";
-  return format(L"place %d with %s", ranking.getUserRanking().getPosition(),
-                ranking.getUserRanking().getChipStack().toString());
+  return formatText(L"place %d with %s", ranking.getUserRanking().getPosition(),
+                    ranking.getUserRanking().getChipStack().toString());
 }
 
 std::wstring rebuyText(const TournamentRebuyModel& rebuys) {
   if (!rebuys.hasRebuys()) return L"none";
-  std::wstring text = format(L"%s for %s", rebuys.getRebuyAmount().toString(), rebuys.getRebuyCost().toString());
-  if (rebuys.hasUserInfo()) text += format(L", %d left for you", rebuys.getRemainingUserRebuys());
+  std::wstring text = formatText(L"%s for %s", rebuys.getRebuyAmount().toString(), rebuys.getRebuyCost().toString());
+  if (rebuys.hasUserInfo()) text += formatText(L", %d left for you", rebuys.getRemainingUserRebuys());
   if (rebuys.isInAddonPeriod()) text += L", add-on period";
   if (rebuys.isAfterAddonPeriod()) text += L", add-on period over";
   return text;
@@ -108,8 +108,8 @@ std::wstring TournamentScreen::textOf(Part part) const {
       return breakText(model_.getBreakInformation());
     case ENTRANTS: {
       const TournamentBaseModel basic = model_.getBasicInformation();
-      return format(L"%d, %d remaining, average stack %d", basic.getNumberOfEntrants(),
-                    basic.getNumberOfPlayersRemaining(), basic.getAverageChipStack());
+      return formatText(L"%d, %d remaining, average stack %d", basic.getNumberOfEntrants(),
+                        basic.getNumberOfPlayersRemaining(), basic.getAverageChipStack());
     }
     case PRIZES:
       return model_.getTourSummary().getPrizeStructure().getTotalPrizePool().toString();
@@ -117,10 +117,10 @@ std::wstring TournamentScreen::textOf(Part part) const {
       return rankingText(model_.getPlayerRankingInformation());
     case PLAYERS:
       model_.readRegisteredPlayers(count);
-      return format(L"%d registered", count.number);
+      return formatText(L"%d registered", count.number);
     case TABLES:
       model_.readTables(count);
-      return format(L"%d", count.number);
+      return formatText(L"%d", count.number);
     case USER:
       return userText(model_);
     case REBUY:

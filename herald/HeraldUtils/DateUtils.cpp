@@ -30,7 +30,7 @@ int getNumberDaysInMonth(int year, int month) {
 
 std::wstring getMonthString(int month) {
   checkMonth(month);
-  return findResourceText(FILE_NAME, L"MonthText", format(L"Month%d", month));
+  return findResourceText(FILE_NAME, L"MonthText", formatText(L"Month%d", month));
 }
 
 std::wstring getAMPMString(bool am) { return findResourceText(FILE_NAME, L"AMPMText", am ? L"AM" : L"PM"); }

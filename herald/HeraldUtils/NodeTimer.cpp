@@ -14,8 +14,8 @@ int NodeTimer::setType(char type) {
 
 std::wstring NodeTimer::toDebugString() const {
   const std::int64_t secondsFromNow = SaturatingArithmetic::subtract(timeStamp_, SystemClock::getProcessClock()) / 1000;
-  return format(L"[NodeTimer id=%d, type=%d timestamp=%d %d sec from now]", id_, static_cast<signed char>(type_),
-                timeStamp_, secondsFromNow);
+  return formatText(L"[NodeTimer id=%d, type=%d timestamp=%d %d sec from now]", id_, static_cast<signed char>(type_),
+                    timeStamp_, secondsFromNow);
 }
 
 }  // namespace Tessel

@@ -11,7 +11,7 @@ template <class Table>
 Table& required(Table* table, int id, int line) {
   if (table == nullptr)
     throw ObjectNotFoundException(L"SpecificTournamentModel/TournamentTables", line,
-                                  format(L"Tournament table with id %d", id));
+                                  formatText(L"Tournament table with id %d", id));
   return *table;
 }
 

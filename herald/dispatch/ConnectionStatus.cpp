@@ -76,14 +76,14 @@ ConnectionOK::ConnectionOK(User user) : user_(std::move(user)) {}
 
 ConnectionStatus* ConnectionOK::clone() const { return new ConnectionOK(*this); }
 
-std::wstring ConnectionOK::toDebugString() const { return format(L"Got ConnectionOK, user: %s\n", user_); }
+std::wstring ConnectionOK::toDebugString() const { return formatText(L"Got ConnectionOK, user: %s\n", user_); }
 
 void ConnectionOK::handle(ConnectionStatusMessageHandler& handler) const { handler.handle(*this); }
 
 ConnectionStatus* ConnectionRegistration::clone() const { return new ConnectionRegistration(*this); }
 
 std::wstring ConnectionRegistration::toDebugString() const {
-  return format(L"Registered Connection w. ID: %d and port = %d\n", connectionId_, port_);
+  return formatText(L"Registered Connection w. ID: %d and port = %d\n", connectionId_, port_);
 }
 
 void ConnectionRegistration::handle(ConnectionStatusMessageHandler& handler) const { handler.handle(*this); }
@@ -91,7 +91,7 @@ void ConnectionRegistration::handle(ConnectionStatusMessageHandler& handler) con
 ConnectionStatus* ConnectionUnregistration::clone() const { return new ConnectionUnregistration(*this); }
 
 std::wstring ConnectionUnregistration::toDebugString() const {
-  return format(L"Unregistered Connection w. ID: %d\n", connectionId_);
+  return formatText(L"Unregistered Connection w. ID: %d\n", connectionId_);
 }
 
 void ConnectionUnregistration::handle(ConnectionStatusMessageHandler& handler) const { handler.handle(*this); }
@@ -104,8 +104,8 @@ ConnectionFailed::ConnectionFailed(Error errorCode, std::wstring message, unsign
 ConnectionStatus* ConnectionFailed::clone() const { return new ConnectionFailed(*this); }
 
 std::wstring ConnectionFailed::toDebugString() const {
-  return format(L"Connection Failed: Error Code = %d, Error Desc. = '%s', System Code = %d\n", errorCode_, message_,
-                systemCode_);
+  return formatText(L"Connection Failed: Error Code = %d, Error Desc. = '%s', System Code = %d\n", errorCode_, message_,
+                    systemCode_);
 }
 
 void ConnectionFailed::handle(ConnectionStatusMessageHandler& handler) const { handler.handle(*this); }
@@ -119,8 +119,8 @@ ConnectionUpdate::ConnectionUpdate(Error errorCode, std::wstring message, unsign
 ConnectionStatus* ConnectionUpdate::clone() const { return new ConnectionUpdate(*this); }
 
 std::wstring ConnectionUpdate::toDebugString() const {
-  return format(L"Connection Update: Code = %d, Msg = '%s', System Code = %d, #Reconnect Attempts = %d\n",
-                getErrorCode(), getMessage(), getSystemCode(), reconnectAttempts_);
+  return formatText(L"Connection Update: Code = %d, Msg = '%s', System Code = %d, #Reconnect Attempts = %d\n",
+                    getErrorCode(), getMessage(), getSystemCode(), reconnectAttempts_);
 }
 
 void ConnectionUpdate::handle(ConnectionStatusMessageHandler& handler) const { handler.handle(*this); }

@@ -61,7 +61,7 @@ class EncodingSink final : public FieldSink {
     if (count > 0 && !fits(count, countType)) {
       throw KeystoneException(
           FILE_NAME, __LINE__,
-          format(L"The %d items of the list \"%s\" are too many for its count.", count, UTFEncoder::toWide(name)));
+          formatText(L"The %d items of the list \"%s\" are too many for its count.", count, UTFEncoder::toWide(name)));
     }
     writeNumber(countType, count, out_);
   }

@@ -12,7 +12,7 @@ namespace {
 
 DecodedRequest readRequest(int id, ByteStream& body) {
   const ServerMessageRow* row = findServerMessageRow(id);
-  if (row == nullptr) return {.reason = format(L"Unknown request (%d)", id)};
+  if (row == nullptr) return {.reason = formatText(L"Unknown request (%d)", id)};
   std::unique_ptr<ServerMessage> request = row->create();
   try {
     const bool readAll = row->read(*request, body);
@@ -48,7 +48,7 @@ std::optional<RequestFrames::Frame> RequestFrames::next() {
   header >> id >> size;
   if (size < 0)
     throw KeystoneException(L"inspect/Requests", __LINE__,
-                            format(L"The frame of the request %d has the size %d.", id, size));
+                            formatText(L"The frame of the request %d has the size %d.", id, size));
   const std::size_t frameSize = FRAME_HEADER_SIZE + static_cast<std::size_t>(size);
   if (pending.size() < frameSize) return std::nullopt;
   position_ += frameSize;

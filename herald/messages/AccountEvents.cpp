@@ -5,7 +5,7 @@ namespace Tessel {
 
 template <class Self>
 std::wstring CashierMessage<Self>::toDebugString() const {
-  return format(Self::TEXT, getAccountBalance(), getMinBuyIn(), getMaxBuyIn());
+  return formatText(Self::TEXT, getAccountBalance(), getMinBuyIn(), getMaxBuyIn());
 }
 
 template class CashierMessage<ShowCashierOk>;

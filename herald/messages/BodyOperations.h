@@ -11,7 +11,7 @@ std::wstring textAround(const Record& body) {
   if constexpr (std::wstring_view(Owner::TEXT).find(L'%') == std::wstring_view::npos)
     return Owner::TEXT;
   else
-    return format(Owner::TEXT, body);
+    return formatText(Owner::TEXT, body);
 }
 
 }  // namespace Tessel

@@ -3,6 +3,6 @@
 
 namespace Tessel {
 
-std::wstring ClientDiscardCards::toDebugString() const { return format(L"[ClientDiscardCards%s]", discarded_); }
+std::wstring ClientDiscardCards::toDebugString() const { return formatText(L"[ClientDiscardCards%s]", discarded_); }
 
 }  // namespace Tessel

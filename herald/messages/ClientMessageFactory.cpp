@@ -23,7 +23,7 @@ std::wstring describeCurrentException() {
 }
 
 DecodedMessage reportUnknownId(int id) {
-  const std::wstring text = format(L"Unknown casino message (%d)", id);
+  const std::wstring text = formatText(L"Unknown casino message (%d)", id);
   MessageException(FILE_NAME, __LINE__, text, L"Received " + text).report();
   return {.outcome = DecodeOutcome::UNKNOWN_ID, .reason = text};
 }
@@ -32,7 +32,7 @@ DecodedMessage reportUnknownId(int id) {
 std::wstring abbreviated(const std::wstring& text) {
   constexpr std::size_t MAX_LENGTH = 300;
   if (text.size() <= MAX_LENGTH) return text;
-  return text.substr(0, MAX_LENGTH) + format(L"... (%d more characters)", text.size() - MAX_LENGTH);
+  return text.substr(0, MAX_LENGTH) + formatText(L"... (%d more characters)", text.size() - MAX_LENGTH);
 }
 
 DecodedMessage reportFailedRead(const ClientMessage& message) {

@@ -16,19 +16,19 @@ bool UnSubscribeNode::read(ByteStream& in) {
   return true;
 }
 
-std::wstring GameList::toDebugString() const { return format(L"[GameList: %s]", games_); }
+std::wstring GameList::toDebugString() const { return formatText(L"[GameList: %s]", games_); }
 
 bool GameListUpdate::takeNodeId() {
   setNodeId(nodeId_);
   return true;
 }
 
-std::wstring GameListUpdate::toDebugString() const { return format(L"[GameListUpdate: %s]", added_); }
+std::wstring GameListUpdate::toDebugString() const { return formatText(L"[GameListUpdate: %s]", added_); }
 
-std::wstring Ping::toDebugString() const { return format(L"[Ping: server time=%d, ping=%d]", serverTime_, ping_); }
+std::wstring Ping::toDebugString() const { return formatText(L"[Ping: server time=%d, ping=%d]", serverTime_, ping_); }
 
 std::wstring NumPlayersLoggedIn::toDebugString() const {
-  return format(
+  return formatText(
       L"[NumPlayersLoggedInMsg: iRealPlayersAtTable=%d, iPlayPlayersAtTable=%d, iNumRealTables=%d, iNumPlayTables=%d, "
       L"iRealMoneyAtTables=%d]",
       realPlayersAtTable_, playPlayersAtTable_, numRealTables_, numPlayTables_, realMoneyAtTables_);

@@ -3,6 +3,8 @@
 
 namespace Tessel {
 
-std::wstring PGPlayerReqToJoinGame::toDebugString() const { return format(L"[PGPlayerReqToJoinGame: %s]", player_); }
+std::wstring PGPlayerReqToJoinGame::toDebugString() const {
+  return formatText(L"[PGPlayerReqToJoinGame: %s]", player_);
+}
 
 }  // namespace Tessel

@@ -3,10 +3,12 @@
 
 namespace Tessel {
 
-std::wstring PGJoinGameReq::toDebugString() const { return format(L"[PGJoinGameReq: %s, %s]", player_, requestText_); }
+std::wstring PGJoinGameReq::toDebugString() const {
+  return formatText(L"[PGJoinGameReq: %s, %s]", player_, requestText_);
+}
 
 std::wstring PGPlayerJoinRequestReply::toDebugString() const {
-  return format(L"[PGPlayerJoinRequestReply: %s], %i", status_, playerId_);
+  return formatText(L"[PGPlayerJoinRequestReply: %s], %i", status_, playerId_);
 }
 
 }  // namespace Tessel

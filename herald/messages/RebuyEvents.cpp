@@ -5,7 +5,7 @@
 namespace Tessel {
 
 std::wstring TournamentPlayerNoRebuyNotification::toDebugString() const {
-  return format(L"[TournamentPlayerNoRebuyNotification: PlayerName=%s, IsAddon=%s]", playerId_, isAddon_);
+  return formatText(L"[TournamentPlayerNoRebuyNotification: PlayerName=%s, IsAddon=%s]", playerId_, isAddon_);
 }
 
 const TournamentRebuyFailed& TourRebuyFailedMsg::getReason() const {

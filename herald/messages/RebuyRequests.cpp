@@ -4,7 +4,7 @@
 namespace Tessel {
 
 std::wstring TournamentRebuyReplyMsg::toDebugString() const {
-  return format(L"[OldTournamentRebuyReplyMsg: TourId=%s, Accept=%s]", tourId_, accept_);
+  return formatText(L"[OldTournamentRebuyReplyMsg: TourId=%s, Accept=%s]", tourId_, accept_);
 }
 
 }  // namespace Tessel

@@ -4,16 +4,17 @@
 namespace Tessel {
 
 std::wstring TourSummaryChangeList::toDebugString() const {
-  return format(L"[TourSummaryChangeList: NodeId=%d %s %s %s]", nodeId_, newTournaments_, updatedTournaments_,
-                deletedTournaments_);
+  return formatText(L"[TourSummaryChangeList: NodeId=%d %s %s %s]", nodeId_, newTournaments_, updatedTournaments_,
+                    deletedTournaments_);
 }
 
 std::wstring SpecificTourSummary::toDebugString() const {
-  return format(L"[SpecificTourSummary: TourSummary=%s PlayerInfo=%s]", tourSummary_, playerInfo_);
+  return formatText(L"[SpecificTourSummary: TourSummary=%s PlayerInfo=%s]", tourSummary_, playerInfo_);
 }
 
 std::wstring SpecificTourSummaryUpdate::toDebugString() const {
-  return format(L"[SpecificTourSummaryUpdate: TourSummaryUpdate=%s PlayerInfo=%s]", tourSummaryUpdate_, playerInfo_);
+  return formatText(L"[SpecificTourSummaryUpdate: TourSummaryUpdate=%s PlayerInfo=%s]", tourSummaryUpdate_,
+                    playerInfo_);
 }
 
 }  // namespace Tessel

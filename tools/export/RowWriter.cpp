@@ -99,9 +99,12 @@ void RowWriter::openRow(const RecordColumns& record, std::size_t index, std::str
   if (table.owner != nullptr) row.values.emplace_back(packet_);
   if (table.namesOwner()) row.values.emplace_back(innermost(table.owner)->id);
   if (table.isTree) {
-    const Row* parent = innermost(&table);
-    row.values.push_back(parent != nullptr ? Value(parent->id) : Value());
-    row.values.push_back(parent != nullptr ? Value(std::string(field)) : Value());
+    if (const Row* parent = innermost(&table)) {
+      row.values.emplace_back(parent->id);
+      row.values.emplace_back(std::string(field));
+    } else {
+      row.values.resize(row.values.size() + 2);
+    }
   }
   if (table.owner != nullptr) row.values.emplace_back(static_cast<std::int64_t>(index));
   row.values.resize(table.columns.size());

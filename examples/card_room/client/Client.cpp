@@ -95,7 +95,7 @@ void Client::handle(const ConnectionOK& event) {
 }
 
 void Client::handle(const ConnectionUpdate& event) {
-  status_ = format(L"%s Attempt %d to connect again", event.getMessage(), event.getReconnectAttempts());
+  status_ = formatText(L"%s Attempt %d to connect again", event.getMessage(), event.getReconnectAttempts());
 }
 
 void Client::handle(const ConnectionFailed& event) {
@@ -365,7 +365,7 @@ void Client::openTournamentTable(int tableId) {
 
 void Client::handle(const TourKnockoutInfo& message) {
   TableHandler::handle(message);
-  news_ = format(L"%s ends in place %d", message.getPlayerName(), message.getFinalPosition());
+  news_ = formatText(L"%s ends in place %d", message.getPlayerName(), message.getFinalPosition());
   if (message.getPlayerId() != me_.getId()) return;
   leaveTournament();
   lookAround();

@@ -36,17 +36,17 @@ std::wstring left(std::wstring text, std::size_t width) {
 
 // Euros are counted in cents, chips in chips.
 std::wstring amount(std::int64_t value, int unit) {
-  if (unit != EURO) return format(L"%d", value);
-  const std::wstring cents = format(L"%d", value % 100);
-  return format(L"€%d.%s", value / 100, cents.size() < 2 ? L"0" + cents : cents);
+  if (unit != EURO) return formatText(L"%d", value);
+  const std::wstring cents = formatText(L"%d", value % 100);
+  return formatText(L"€%d.%s", value / 100, cents.size() < 2 ? L"0" + cents : cents);
 }
 
 std::wstring face(const Card& card) {
-  if (card.isHidden()) return format(L"%s▒▒%s", DIM, PLAIN);
+  if (card.isHidden()) return formatText(L"%s▒▒%s", DIM, PLAIN);
   constexpr const wchar_t* SUITS[] = {L"♣", L"♦", L"♥", L"♠"};
   const int suit = static_cast<int>(card.getColor());
   const bool isRed = card.getColor() == Card::Color::DIAMONDS || card.getColor() == Card::Color::HEARTS;
-  return format(L"%s%s%s%s", isRed ? RED : BOLD, card.toCString().substr(0, 1), SUITS[suit], PLAIN);
+  return formatText(L"%s%s%s%s", isRed ? RED : BOLD, card.toCString().substr(0, 1), SUITS[suit], PLAIN);
 }
 
 std::wstring faces(const std::vector<Card>& cards, std::size_t places) {
@@ -63,7 +63,7 @@ std::wstring clockOf(const TableModel& table) {
   const int left = static_cast<int>(std::clamp(seconds, std::int64_t{0}, std::int64_t{99}));
   const int filled = std::clamp(left * WIDTH / std::max(table.secondsToAct, 1), 0, WIDTH);
   return std::wstring(static_cast<std::size_t>(filled), L'█')
-         + std::wstring(static_cast<std::size_t>(WIDTH - filled), L'░') + format(L" %d s", left);
+         + std::wstring(static_cast<std::size_t>(WIDTH - filled), L'░') + formatText(L" %d s", left);
 }
 
 std::wstring timeText() {
@@ -96,20 +96,20 @@ void Person::follows(SpecificTournamentModel* tournament) {
 
 void Person::visit(const TournamentLevelInformationUpdateObject&) {
   const TournamentLevelInformation level = tournament_->getLevelInformation();
-  level_ = format(L"level %d", level.getLevelNumber());
+  level_ = formatText(L"level %d", level.getLevelNumber());
   if (level.hasBlinds())
-    level_ += format(L", blinds %d/%d", level.getBlinds().getSmallBlind().getAmount(),
-                     level.getBlinds().getBigBlind().getAmount());
+    level_ += formatText(L", blinds %d/%d", level.getBlinds().getSmallBlind().getAmount(),
+                         level.getBlinds().getBigBlind().getAmount());
 }
 
 void Person::visit(const TournamentBaseUpdateObject&) {
   const TournamentBaseModel basic = tournament_->getBasicInformation();
-  players_ = format(L"%d of %d players", basic.getNumberOfPlayersRemaining(), basic.getNumberOfEntrants());
+  players_ = formatText(L"%d of %d players", basic.getNumberOfPlayersRemaining(), basic.getNumberOfEntrants());
 }
 
 void Person::visit(const TournamentPlayerRankingUpdateObject&) {
   const TournamentPlayerRankingModel ranking = tournament_->getPlayerRankingInformation();
-  if (ranking.hasUserRanking()) rank_ = format(L"you are %d.", ranking.getUserRanking().getPosition());
+  if (ranking.hasUserRanking()) rank_ = formatText(L"you are %d.", ranking.getUserRanking().getPosition());
 }
 
 bool Person::press(Client& client, char key) {
@@ -166,20 +166,20 @@ std::vector<std::wstring> Person::screen(const Client& client, Terminal::Size si
 std::wstring Person::header(const Client& client) const {
   const Money account = UserAccountModel::getUserAccountModel().getAccount(EURO);
   const std::wstring where = client.table().isOpen ? client.table().name : L"Card room";
-  return format(L"%s%s%s%s%s", BOLD, left(where, 30), PLAIN, right(L"account " + amount(account.getAmount(), EURO), 30),
-                right(timeText(), 18));
+  return formatText(L"%s%s%s%s%s", BOLD, left(where, 30), PLAIN,
+                    right(L"account " + amount(account.getAmount(), EURO), 30), right(timeText(), 18));
 }
 
 std::vector<std::wstring> Person::lobby(const Client& client) const {
-  std::vector<std::wstring> lines = {format(L"%s     table            players%s", DIM, PLAIN)};
+  std::vector<std::wstring> lines = {formatText(L"%s     table            players%s", DIM, PLAIN)};
   int number = 1;
   for (const auto& [id, game] : client.lobby().games)
-    lines.push_back(format(L"  %d  %s %d of %d", number++, left(game.name, 16), game.players, game.seats));
+    lines.push_back(formatText(L"  %d  %s %d of %d", number++, left(game.name, 16), game.players, game.seats));
   lines.emplace_back();
-  lines.push_back(format(L"%s     tournament       entrants%s", DIM, PLAIN));
+  lines.push_back(formatText(L"%s     tournament       entrants%s", DIM, PLAIN));
   for (const auto& [id, tournament] : client.lobby().tournaments)
-    lines.push_back(format(L"  %s  %s %d %s", tournament.isOpen ? L"t" : L" ", left(tournament.name, 16),
-                           tournament.entrants, tournament.isOpen ? L"open" : L"playing"));
+    lines.push_back(formatText(L"  %s  %s %d %s", tournament.isOpen ? L"t" : L" ", left(tournament.name, 16),
+                               tournament.entrants, tournament.isOpen ? L"open" : L"playing"));
   if (tournament_ != nullptr) {
     lines.emplace_back();
     lines.emplace_back(L"  You have entered a tournament, which begins when it is full.");
@@ -191,15 +191,15 @@ std::vector<std::wstring> Person::table(const Client& client) const {
   constexpr std::size_t BOARD = 5;
   const TableModel& table = client.table();
   std::vector<std::wstring> lines;
-  lines.push_back(format(L"  hand %d     pot %s%s%s", table.hand, BOLD, amount(table.pot, table.unit), PLAIN));
-  lines.push_back(tournament_ == nullptr ? L"" : format(L"  %s  %s  %s", level_, players_, rank_));
+  lines.push_back(formatText(L"  hand %d     pot %s%s%s", table.hand, BOLD, amount(table.pot, table.unit), PLAIN));
+  lines.push_back(tournament_ == nullptr ? L"" : formatText(L"  %s  %s  %s", level_, players_, rank_));
   lines.push_back(L"  board   " + faces(table.board, BOARD));
   lines.emplace_back();
-  lines.push_back(format(L"%s     player                 stack         bet   cards%s", DIM, PLAIN));
+  lines.push_back(formatText(L"%s     player                 stack         bet   cards%s", DIM, PLAIN));
   for (int number = 0; number < table.seatCount; ++number) {
     const auto found = table.seats.find(number);
     if (found == table.seats.end()) {
-      lines.push_back(format(L"%s     (free)%s", DIM, PLAIN));
+      lines.push_back(formatText(L"%s     (free)%s", DIM, PLAIN));
       continue;
     }
     const TableModel::Seat& seat = found->second;
@@ -208,10 +208,10 @@ std::vector<std::wstring> Person::table(const Client& client) const {
     const std::wstring bet = seat.bet == 0 ? L"" : amount(seat.bet, table.unit);
     const std::wstring cards = seat.isInHand ? faces(seat.cards, 2) : L"      ";
     const std::wstring last = isToAct ? clockOf(table) : seat.isSittingIn ? seat.lastMove : L"sits out";
-    lines.push_back(format(L" %s%s %s%s%s%s %s  %s %s%s%s", isToAct ? L">" : L" ", table.dealer == number ? L"D" : L" ",
-                           isMe ? GREEN : PLAIN, left((isMe ? L"*" : L" ") + seat.nick, 17), PLAIN,
-                           right(amount(seat.stack, table.unit), 12), right(bet, 11), cards, isToAct ? GREEN : DIM,
-                           last, PLAIN));
+    lines.push_back(formatText(
+        L" %s%s %s%s%s%s %s  %s %s%s%s", isToAct ? L">" : L" ", table.dealer == number ? L"D" : L" ",
+        isMe ? GREEN : PLAIN, left((isMe ? L"*" : L" ") + seat.nick, 17), PLAIN,
+        right(amount(seat.stack, table.unit), 12), right(bet, 11), cards, isToAct ? GREEN : DIM, last, PLAIN));
   }
   return lines;
 }
@@ -220,11 +220,11 @@ std::wstring Person::choices(const Client& client) const {
   if (!client.table().isOpen) return L"[1-9] go to a table   [t] enter a tournament   [b] balance   [q] quit";
   if (!choice_) return L"[l] leave the table   [q] quit";
   const int unit = client.table().unit;
-  std::wstring text = format(L"%sYour move:%s  [f] fold   ", BOLD, PLAIN);
-  text += choice_->toCall == 0 ? L"[c] check" : format(L"[c] call %s", amount(choice_->toCall, unit));
+  std::wstring text = formatText(L"%sYour move:%s  [f] fold   ", BOLD, PLAIN);
+  text += choice_->toCall == 0 ? L"[c] check" : formatText(L"[c] call %s", amount(choice_->toCall, unit));
   if (choice_->mayRaise)
-    text += format(L"   [r] raise: %s   [a] all in: %s", amount(choice_->smallestRaise, unit),
-                   amount(choice_->largestRaise, unit));
+    text += formatText(L"   [r] raise: %s   [a] all in: %s", amount(choice_->smallestRaise, unit),
+                       amount(choice_->largestRaise, unit));
   return text;
 }
 

@@ -35,7 +35,7 @@ std::optional<MessageFrames::Frame> MessageFrames::next() {
   MessageHeader header;
   bytes_ >> header.id >> header.length;
   if (header.length < 0 || header.length > MessageHeader::LONGEST_BODY)
-    throw KeystoneException(L"card_room/Wire", __LINE__, format(L"A body of %d bytes is announced", header.length));
+    throw KeystoneException(L"card_room/Wire", __LINE__, formatText(L"A body of %d bytes is announced", header.length));
   const auto length = static_cast<std::size_t>(header.length);
   if (bytes_.unreadCount() < length) {
     bytes_.seek(start);
@@ -46,9 +46,9 @@ std::optional<MessageFrames::Frame> MessageFrames::next() {
   return frame;
 }
 
-std::wstring LoginInfo::toDebugString() const { return format(L"[LoginInfo: nick=%s]", getNick()); }
+std::wstring LoginInfo::toDebugString() const { return formatText(L"[LoginInfo: nick=%s]", getNick()); }
 
-std::wstring LoginRequest::toDebugString() const { return format(L"[LoginRequest: %s]", login_.toDebugString()); }
+std::wstring LoginRequest::toDebugString() const { return formatText(L"[LoginRequest: %s]", login_.toDebugString()); }
 
 void LoginRequest::writeBody(ByteStream& out) const {
   if (!login_.write(out)) throw KeystoneException(L"card_room/Wire", __LINE__, L"A login that cannot be written");

@@ -44,7 +44,7 @@ std::vector<Game> ringGames(int count) {
   std::vector<Game> games;
   games.reserve(static_cast<std::size_t>(count));
   for (int i = 0; i < count; ++i)
-    games.push_back({.id = FIRST_TABLE + i, .name = format(L"Table %d", i + 1), .bigBlind = 100, .maxPlayers = 6});
+    games.push_back({.id = FIRST_TABLE + i, .name = formatText(L"Table %d", i + 1), .bigBlind = 100, .maxPlayers = 6});
   return games;
 }
 
@@ -78,7 +78,7 @@ void Room::requested(Session& session, const RequestFrames::Frame& frame) {
   const DecodedRequest decoded = decodeRequest(frame.id, body);
   Member* member = memberOf(session);
   if (member == nullptr || decoded.request == nullptr || !answer(*member, *decoded.request))
-    Log::append(format(L"A request %d is not answered. %s", frame.id, decoded.reason), L"card_room/Room", 3);
+    Log::append(formatText(L"A request %d is not answered. %s", frame.id, decoded.reason), L"card_room/Room", 3);
 }
 
 void Room::logIn(Session& session, std::span<const std::uint8_t> body) {
@@ -329,7 +329,7 @@ void Room::openSitAndGo() {
   const int number = (nextTournament_ - 30'000) / 2;
   const TournamentSummary announced = {.id = nextTournament_,
                                        .attributes = TournamentSummary::SIT_AND_GO,
-                                       .name = format(L"Sit & Go %d", number + 1),
+                                       .name = formatText(L"Sit & Go %d", number + 1),
                                        .description = L"Begins when five have entered",
                                        .tableName = L"Sit & Go, table",
                                        .status = AllowedTournamentStatus::REGISTRATION_OPEN,

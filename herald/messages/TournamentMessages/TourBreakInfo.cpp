@@ -5,7 +5,7 @@
 namespace Tessel {
 
 std::wstring TourBreakInfo::toDebugString() const {
-  return format(
+  return formatText(
       L"[TourBreakInfo: iRemainingTime=%li, iNumberOfEntrants=%d, iNumberOfRemainingPlayers=%d, iAverageChipStack=%s]",
       remainingMs_, numberOfEntrants_, numberOfRemainingPlayers_, averageChipStack_);
 }

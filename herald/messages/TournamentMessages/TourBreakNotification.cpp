@@ -6,8 +6,8 @@
 namespace Tessel {
 
 std::wstring TourBreakNotification::toDebugString() const {
-  return format(L"[TourBreakNotification iMsUntilBreak=%s, BreakDuration=%s]",
-                StringUtils::int64ToString(msUntilBreak_), StringUtils::int64ToString(breakDuration_));
+  return formatText(L"[TourBreakNotification iMsUntilBreak=%s, BreakDuration=%s]",
+                    StringUtils::int64ToString(msUntilBreak_), StringUtils::int64ToString(breakDuration_));
 }
 
 bool TourBreakNotification::log() const {

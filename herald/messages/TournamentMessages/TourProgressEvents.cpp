@@ -32,24 +32,24 @@ const TableNotificationEvent& TableNotification::getEvent() const {
 }
 
 std::wstring TourNextLevelInfoMsg::toDebugString() const {
-  return format(L"[TourNextLevelInfoMsg %s %s]", current_, next_);
+  return formatText(L"[TourNextLevelInfoMsg %s %s]", current_, next_);
 }
 
 std::wstring TourKnockoutInfo::toDebugString() const {
-  return format(L"[TourKnockoutInfo: iPlayerId=%d, iPlayerName=%s, iFinalPosition=%d %s %s]", playerId_, playerName_,
-                finalPosition_, monetaryPrizes_, ticketPrizes_);
+  return formatText(L"[TourKnockoutInfo: iPlayerId=%d, iPlayerName=%s, iFinalPosition=%d %s %s]", playerId_,
+                    playerName_, finalPosition_, monetaryPrizes_, ticketPrizes_);
 }
 
 std::wstring TourPlayerLeave::toDebugString() const {
-  return format(L"[TourPlayerLeave: PlayerId=%d, TableName=%s]", playerId_, tableMovingToName_);
+  return formatText(L"[TourPlayerLeave: PlayerId=%d, TableName=%s]", playerId_, tableMovingToName_);
 }
 
 std::wstring TourPlayerArrive::toDebugString() const {
-  return format(L"[TourPlayerArrive: PlayerName=%s, TableName=%s]", playerName_, tableArrivingFromName_);
+  return formatText(L"[TourPlayerArrive: PlayerName=%s, TableName=%s]", playerName_, tableArrivingFromName_);
 }
 
 std::wstring TourFlightEndNotification::toDebugString() const {
-  return format(L"[TourFlightEndNotification: RemainingTime=%li]", remainingMs_);
+  return formatText(L"[TourFlightEndNotification: RemainingTime=%li]", remainingMs_);
 }
 
 }  // namespace Tessel

@@ -5,7 +5,7 @@ namespace Tessel {
 
 AmountInfo::AmountInfo(ByteStream& in) { AmountInfo::read(in); }
 
-std::wstring Amount::toDebugString() const { return format(L"[AmountInfo: amount=%li]", amount_); }
+std::wstring Amount::toDebugString() const { return formatText(L"[AmountInfo: amount=%li]", amount_); }
 
 std::wstring AmountInfo::toDebugString() const { return amount_.toDebugString(); }
 

@@ -10,8 +10,8 @@ const BlindLevelSpeed& BlindLevelSpeedInfo::getBlindLevelSpeed() const {
 }
 
 std::wstring BlindLevelSpeedInfo::toDebugString() const {
-  return format(L"[BlindLevelSpeedInfo: Id=%d, BlindSpeed=%s, StartingChipStack=%s]", id_, blindSpeed_,
-                startingChipStack_);
+  return formatText(L"[BlindLevelSpeedInfo: Id=%d, BlindSpeed=%s, StartingChipStack=%s]", id_, blindSpeed_,
+                    startingChipStack_);
 }
 
 template class InfoList<BlindLevelSpeedInfo>;

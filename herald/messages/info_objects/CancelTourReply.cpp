@@ -6,7 +6,7 @@ namespace Tessel {
 CancelTourReply::CancelTourReply(ByteStream& in) { CancelTourReply::read(in); }
 
 std::wstring CancelTourReply::toDebugString() const {
-  return format(L"[CancelTourReply - iCancelResult =%d]", cancelResult_);
+  return formatText(L"[CancelTourReply - iCancelResult =%d]", cancelResult_);
 }
 
 }  // namespace Tessel

@@ -50,7 +50,7 @@ void CardInfo::setRandomCommunityCard() {
 }
 
 std::wstring CardInfo::toDebugString() const {
-  return format(L"[CardInfo: Player id=%d, seat=%d, %s]", playerId_, seat_, getCard().toCString());
+  return formatText(L"[CardInfo: Player id=%d, seat=%d, %s]", playerId_, seat_, getCard().toCString());
 }
 
 void CardInfo::throwNoCard() const {

@@ -28,7 +28,7 @@ bool CardsInfo::doesPlayerHaveCards(int seat) const {
 }
 
 std::wstring CardsInfo::toDebugString() const {
-  std::wstring text = format(L"[CardsInfo: has winning cards=%d, ", hasWinningCards_);
+  std::wstring text = formatText(L"[CardsInfo: has winning cards=%d, ", hasWinningCards_);
   for (const CardInfo& card : cards_) text += card.toDebugString();
   if (hasWinningCards_) {
     text += L", winning cards=";

@@ -4,8 +4,8 @@
 namespace Tessel {
 
 std::wstring CashierInfo::toDebugString() const {
-  return format(L"[CashierInfo: AccountBalance=%li, Min buy in=%li, Max buy in=%li]", getAccountBalance(),
-                getMinBuyIn(), getMaxBuyIn());
+  return formatText(L"[CashierInfo: AccountBalance=%li, Min buy in=%li, Max buy in=%li]", getAccountBalance(),
+                    getMinBuyIn(), getMaxBuyIn());
 }
 
 }  // namespace Tessel

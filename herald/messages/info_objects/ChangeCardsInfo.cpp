@@ -4,7 +4,7 @@
 namespace Tessel {
 
 std::wstring ChangeCardsInfo::toDebugString() const {
-  return format(L"[ChangeCardsInfo: Seat=%d, TimeLeft=%d, TotalTime=%d]", seat_, timeLeft_, totalTime_);
+  return formatText(L"[ChangeCardsInfo: Seat=%d, TimeLeft=%d, TotalTime=%d]", seat_, timeLeft_, totalTime_);
 }
 
 }  // namespace Tessel

@@ -4,7 +4,7 @@
 namespace Tessel {
 
 std::wstring ChatMessage::toDebugString() const {
-  return format(L"[ChatMessage: Nickname=%s, Message=%s]", nickname_, message_);
+  return formatText(L"[ChatMessage: Nickname=%s, Message=%s]", nickname_, message_);
 }
 
 }  // namespace Tessel

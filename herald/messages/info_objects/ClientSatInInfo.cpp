@@ -7,7 +7,7 @@ ClientSatInInfo::ClientSatInInfo(int playerId, ClientSatInStatus status)
     : playerId_(playerId), resittingIn_(status == ClientSatInStatus::RESITTING_IN) {}
 
 std::wstring ClientSatInInfo::toDebugString() const {
-  return format(L"[ClientSatInInfo: Player ID: %d, Resitting In: %d]", playerId_, resittingIn_);
+  return formatText(L"[ClientSatInInfo: Player ID: %d, Resitting In: %d]", playerId_, resittingIn_);
 }
 
 }  // namespace Tessel

@@ -4,7 +4,7 @@
 namespace Tessel {
 
 std::wstring ClientSatOutInfo::toDebugString() const {
-  return format(L"[ClientSatOutInfo: PlayerID: %d, Status: %d]", playerId_, status_);
+  return formatText(L"[ClientSatOutInfo: PlayerID: %d, Status: %d]", playerId_, status_);
 }
 
 }  // namespace Tessel

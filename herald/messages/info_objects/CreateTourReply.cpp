@@ -11,7 +11,7 @@ const CreatePrivateTournamentError& CreateTourReply::getErrorType() const {
 }
 
 std::wstring CreateTourReply::toDebugString() const {
-  return format(L"[CreateTourReply - iCreateResult = %d]", createResult_);
+  return formatText(L"[CreateTourReply - iCreateResult = %d]", createResult_);
 }
 
 }  // namespace Tessel

@@ -7,7 +7,7 @@ CreditInfo::CreditInfo(int playerId, int seat, std::int64_t amount)
     : playerId_(playerId), seat_(static_cast<std::int8_t>(seat)), amount_(amount) {}
 
 std::wstring CreditInfo::toDebugString() const {
-  return format(L"[CreditInfo: id=%d, seat=%d, amount=%li]", playerId_, seat_, amount_.getAmount());
+  return formatText(L"[CreditInfo: id=%d, seat=%d, amount=%li]", playerId_, seat_, amount_.getAmount());
 }
 
 }  // namespace Tessel

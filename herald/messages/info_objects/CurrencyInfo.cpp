@@ -6,8 +6,8 @@ namespace Tessel {
 CurrencyInfo::CurrencyInfo(ByteStream& in) { read(in); }
 
 std::wstring CurrencyInfo::toDebugString() const {
-  return format(L"[CurrencyInfo: Id=%s, Prefix=%s, Postfix=%s, CutOffAmount:%d, SortingPriority:%d]", id_, prefix_,
-                postfix_, cutOffAmount_, sortingPriority_);
+  return formatText(L"[CurrencyInfo: Id=%s, Prefix=%s, Postfix=%s, CutOffAmount:%d, SortingPriority:%d]", id_, prefix_,
+                    postfix_, cutOffAmount_, sortingPriority_);
 }
 
 template class PlainRecord<CurrencyInfo>;

@@ -11,7 +11,7 @@ const DealType& DealtCardsInfo::getDealType() const {
 }
 
 std::wstring DealtCardsInfo::toDebugString() const {
-  return format(L"[DealtCardsInfo: DealType%d, CardsInfo: %s]", dealType_, cards_);
+  return formatText(L"[DealtCardsInfo: DealType%d, CardsInfo: %s]", dealType_, cards_);
 }
 
 }  // namespace Tessel

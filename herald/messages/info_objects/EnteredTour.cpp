@@ -4,7 +4,7 @@
 namespace Tessel {
 
 std::wstring EnteredTour::toDebugString() const {
-  return format(L"[EnteredTour: iTournamentId=%d, iNodeId=%d, iName=%s]", tournamentId_, nodeId_, name_);
+  return formatText(L"[EnteredTour: iTournamentId=%d, iNodeId=%d, iName=%s]", tournamentId_, nodeId_, name_);
 }
 
 }  // namespace Tessel

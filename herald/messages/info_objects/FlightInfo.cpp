@@ -4,7 +4,8 @@
 namespace Tessel {
 
 std::wstring FlightInfo::toDebugString() const {
-  return format(L"[FlightInfo: MainEventId=%d, NumPlayers=%d, DurationMs=%li]", mainEventId_, numPlayers_, durationMs_);
+  return formatText(L"[FlightInfo: MainEventId=%d, NumPlayers=%d, DurationMs=%li]", mainEventId_, numPlayers_,
+                    durationMs_);
 }
 
 }  // namespace Tessel

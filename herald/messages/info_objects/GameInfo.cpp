@@ -12,7 +12,7 @@ bool GameInfo::write(ByteStream& out) const {
 }
 
 std::wstring GameInfo::toDebugString() const {
-  return format(
+  return formatText(
       L"[GameInfo: name=%s, nr players=%d, max players=%d, game id=%d, monetary unit id=%d, players watching=%d, "
       L"port=%d, type=%d]",
       name_, nrPlayers_, maxNrPlayers_, id_, monetaryUnitId_, nrPlayersWatching_, port_, type_);

@@ -10,7 +10,7 @@ int HandValueInfo::getSpecifiedCard(int i) const {
 }
 
 std::wstring HandValueInfo::toDebugString() const {
-  return format(L"[HandValueInfo: PlayerSeat=%d, HandType=%d, HandValue=%d]", playerSeat_, handType_, handValue_);
+  return formatText(L"[HandValueInfo: PlayerSeat=%d, HandType=%d, HandValue=%d]", playerSeat_, handType_, handValue_);
 }
 
 }  // namespace Tessel

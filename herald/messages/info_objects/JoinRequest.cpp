@@ -4,7 +4,7 @@
 namespace Tessel {
 
 std::wstring JoinRequest::toDebugString() const {
-  return format(L"[JoinRequest: GameId=%d, PlayerId=%d]", gameId_, playerId_);
+  return formatText(L"[JoinRequest: GameId=%d, PlayerId=%d]", gameId_, playerId_);
 }
 
 }  // namespace Tessel

@@ -5,6 +5,8 @@ namespace Tessel {
 
 WritableReadableInfo::~WritableReadableInfo() = default;
 
-std::wstring JoinRequestStatus::toDebugString() const { return format(L"[JoinRequestStatus: Status: %d]", status_); }
+std::wstring JoinRequestStatus::toDebugString() const {
+  return formatText(L"[JoinRequestStatus: Status: %d]", status_);
+}
 
 }  // namespace Tessel

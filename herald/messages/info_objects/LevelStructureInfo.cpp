@@ -4,8 +4,8 @@
 namespace Tessel {
 
 std::wstring LevelStructureInfo::toDebugString() const {
-  return format(L"[LevelStructureInfo: DurationMs=%li, DurationHands=%d, IsAdaptive=%d]", durationMs_, durationHands_,
-                isAdaptive_);
+  return formatText(L"[LevelStructureInfo: DurationMs=%li, DurationHands=%d, IsAdaptive=%d]", durationMs_,
+                    durationHands_, isAdaptive_);
 }
 
 }  // namespace Tessel

@@ -10,8 +10,9 @@ void LobbyInfo::requireMore(bool hasMore) {
 }
 
 std::wstring LobbyInfo::toDebugString() const {
-  return format(L"[LobbyInfo: id=%d, nr players=%d, players=%s, nr players waiting=%d, players waiting=%s, name=%s]",
-                id_, nrPlayers_, joinDebugTexts(players_), nrPlayersWaiting_, joinDebugTexts(playersWaiting_), name_);
+  return formatText(
+      L"[LobbyInfo: id=%d, nr players=%d, players=%s, nr players waiting=%d, players waiting=%s, name=%s]", id_,
+      nrPlayers_, joinDebugTexts(players_), nrPlayersWaiting_, joinDebugTexts(playersWaiting_), name_);
 }
 
 }  // namespace Tessel

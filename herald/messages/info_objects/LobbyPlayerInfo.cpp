@@ -7,7 +7,8 @@ namespace Tessel {
 bool LobbyPlayerInfo::isVIP() const { return BitMasking::getBit(attributes_, VIP_FLAG); }
 
 std::wstring LobbyPlayerInfo::toDebugString() const {
-  return format(L"[LobbyPlayerInfo: PlayerId=%d, PlayerName=%s, Attributes=%d]", playerId_, playerName_, attributes_);
+  return formatText(L"[LobbyPlayerInfo: PlayerId=%d, PlayerName=%s, Attributes=%d]", playerId_, playerName_,
+                    attributes_);
 }
 
 }  // namespace Tessel

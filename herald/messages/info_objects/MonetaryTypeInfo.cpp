@@ -6,8 +6,8 @@ namespace Tessel {
 MonetaryTypeInfo::MonetaryTypeInfo(ByteStream& in) { read(in); }
 
 std::wstring MonetaryTypeInfo::toDebugString() const {
-  return format(L"[MonetaryTypeInfo: Id=%s, Name=%s, Properties=%d, SortingPriority:%d]", id_, name_, properties_,
-                sortingPriority_);
+  return formatText(L"[MonetaryTypeInfo: Id=%s, Name=%s, Properties=%d, SortingPriority:%d]", id_, name_, properties_,
+                    sortingPriority_);
 }
 
 template class PlainRecord<MonetaryTypeInfo>;

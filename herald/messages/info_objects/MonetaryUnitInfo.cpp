@@ -6,7 +6,7 @@ namespace Tessel {
 MonetaryUnitInfo::MonetaryUnitInfo(ByteStream& in) { read(in); }
 
 std::wstring MonetaryUnitInfo::toDebugString() const {
-  return format(L"[MonetaryUnitInfo: Id=%d, MonetaryTypeId=%s, CurrencyId=%s]", id_, monetaryTypeId_, currencyId_);
+  return formatText(L"[MonetaryUnitInfo: Id=%d, MonetaryTypeId=%s, CurrencyId=%s]", id_, monetaryTypeId_, currencyId_);
 }
 
 template class PlainRecord<MonetaryUnitInfo>;

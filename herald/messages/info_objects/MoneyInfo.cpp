@@ -3,7 +3,7 @@
 
 namespace Tessel {
 
-std::wstring MoneyAmount::toDebugString() const { return format(L"[MoneyInfo: %s ]", getMoney().toString()); }
+std::wstring MoneyAmount::toDebugString() const { return formatText(L"[MoneyInfo: %s ]", getMoney().toString()); }
 
 MoneyInfo::MoneyInfo(const Money& money) : value_(money) {}
 

@@ -12,8 +12,8 @@ PGSettings::PGSettings(int settingId, int maxNumPlayers, JoinType joinType, TsSt
       speed_(static_cast<std::int8_t>(speed)) {}
 
 std::wstring PGSettings::toDebugString() const {
-  return format(L"[PGSettingsInfo: settingId=%d, maxNumPlayers=%d, joinType=%d, description=%s, speed=%d]", settingId_,
-                maxNumPlayers_, joinType_, description_, speed_);
+  return formatText(L"[PGSettingsInfo: settingId=%d, maxNumPlayers=%d, joinType=%d, description=%s, speed=%d]",
+                    settingId_, maxNumPlayers_, joinType_, description_, speed_);
 }
 
 }  // namespace Tessel

@@ -26,13 +26,13 @@ bool PGSettingsInfo::isRealMoneyGame() const {
   MonetaryType type;
   if (!MoneyModel::getInstance().getMonetaryType(unit, type))
     throw KeystoneException(L"messages/info_objects/PGSettingsInfo", __LINE__,
-                            format(L"Cannot find Monetary Type (id=%d)", unit));
+                            formatText(L"Cannot find Monetary Type (id=%d)", unit));
   return type.isReal();
 }
 
 std::wstring PGSettingsInfo::toDebugString() const {
-  return format(L"[PGSettingsInfo: settingId=%d, gameType=%d, description=%s, limit=%s]", settingId_, gameType_,
-                description_, limits_.toString());
+  return formatText(L"[PGSettingsInfo: settingId=%d, gameType=%d, description=%s, limit=%s]", settingId_, gameType_,
+                    description_, limits_.toString());
 }
 
 }  // namespace Tessel

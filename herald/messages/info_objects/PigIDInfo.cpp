@@ -4,7 +4,7 @@
 namespace Tessel {
 
 std::wstring PigIDInfo::toDebugString() const {
-  return format(L"[PigIDInfo: NickName=%s, GameId=%d]", nickName_, gameId_);
+  return formatText(L"[PigIDInfo: NickName=%s, GameId=%d]", nickName_, gameId_);
 }
 
 }  // namespace Tessel

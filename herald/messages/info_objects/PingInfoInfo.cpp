@@ -6,7 +6,7 @@ namespace Tessel {
 bool PingInfoInfo::write(ByteStream&) const { return false; }
 
 std::wstring PingInfoInfo::toDebugString() const {
-  return format(L"[PingInfoInfo: nick=%s, ping=%d, money at table=%s]", nick_, ping_, moneyAtTable_);
+  return formatText(L"[PingInfoInfo: nick=%s, ping=%d, money at table=%s]", nick_, ping_, moneyAtTable_);
 }
 
 template class InfoList<PingInfoInfo>;

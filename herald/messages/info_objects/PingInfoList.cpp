@@ -4,7 +4,7 @@
 namespace Tessel {
 
 std::wstring PingInfoList::toDebugString() const {
-  return format(L"[PingInfoList: iNrInfos=%d, iGameId=%d]", getNrInfos(), gameId_);
+  return formatText(L"[PingInfoList: iNrInfos=%d, iGameId=%d]", getNrInfos(), gameId_);
 }
 
 }  // namespace Tessel

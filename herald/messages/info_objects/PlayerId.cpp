@@ -3,6 +3,6 @@
 
 namespace Tessel {
 
-std::wstring PlayerId::toDebugString() const { return format(L"[PlayerId: id=%d, seat=%d]", id_, seat_); }
+std::wstring PlayerId::toDebugString() const { return formatText(L"[PlayerId: id=%d, seat=%d]", id_, seat_); }
 
 }  // namespace Tessel

@@ -13,8 +13,8 @@ bool PlayerInfo::hasSalonPage() const { return BitMasking::getBit(flags_, SALON_
 bool PlayerInfo::isVIP() const { return BitMasking::getBit(flags_, VIP_BIT); }
 
 std::wstring PlayerInfo::toDebugString() const {
-  return format(L"[PlayerInfo: Id=%d, Nick=%s, City=%s, ping=%d, game=%d, TeamName=%s]", id_, nickName_, city_, ping_,
-                gameId_, teamName_);
+  return formatText(L"[PlayerInfo: Id=%d, Nick=%s, City=%s, ping=%d, game=%d, TeamName=%s]", id_, nickName_, city_,
+                    ping_, gameId_, teamName_);
 }
 
 }  // namespace Tessel

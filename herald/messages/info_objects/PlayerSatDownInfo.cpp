@@ -4,7 +4,7 @@
 namespace Tessel {
 
 std::wstring PlayerSatDownInfo::toDebugString() const {
-  return format(L"[PlayerSatDownInfo: %s, Seat: %d]", player_, seat_);
+  return formatText(L"[PlayerSatDownInfo: %s, Seat: %d]", player_, seat_);
 }
 
 }  // namespace Tessel

@@ -4,8 +4,8 @@
 namespace Tessel {
 
 std::wstring PlayerStateInfo::toDebugString() const {
-  return format(L"[PlayerStateInfo: iSeat=%d, iPlayerInfo=%s, iBets=%s, iIsSittingIn=%d, iIsSlow=%d]", seat_, player_,
-                betsNotInPot_, sittingIn_, slow_);
+  return formatText(L"[PlayerStateInfo: iSeat=%d, iPlayerInfo=%s, iBets=%s, iIsSittingIn=%d, iIsSlow=%d]", seat_,
+                    player_, betsNotInPot_, sittingIn_, slow_);
 }
 
 template class InfoList<PlayerStateInfo>;

@@ -33,7 +33,9 @@ LobbyNodeInterface* PokerGameInfo::cloneNode() const { return new PokerGameInfo(
 
 bool PokerGameInfo::hasFlag(int bit) const { return BitMasking::getBit(tableFlags_, bit); }
 
-std::wstring PokerGameInfo::toDebugString() const { return format(L"[PokerGameInfo: %s]", GameInfo::toDebugString()); }
+std::wstring PokerGameInfo::toDebugString() const {
+  return formatText(L"[PokerGameInfo: %s]", GameInfo::toDebugString());
+}
 
 template class InfoList<PokerGameInfo>;
 

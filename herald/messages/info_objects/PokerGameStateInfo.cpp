@@ -16,8 +16,8 @@ bool PokerGameStateInfo::isPlayerAtTable(int playerId) const {
 }
 
 std::wstring PokerGameStateInfo::toDebugString() const {
-  return format(L"[PokerGameStateInfo: dealer=%d, pot=%s, round=%d, rake=%d, %s, %s, %s, %s]", dealerSeat_, pot_,
-                currentBettingRound_, rake_.getAmount(), rules_, players_, cards_, game_);
+  return formatText(L"[PokerGameStateInfo: dealer=%d, pot=%s, round=%d, rake=%d, %s, %s, %s, %s]", dealerSeat_, pot_,
+                    currentBettingRound_, rake_.getAmount(), rules_, players_, cards_, game_);
 }
 
 }  // namespace Tessel

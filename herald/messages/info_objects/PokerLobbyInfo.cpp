@@ -9,8 +9,8 @@ void PokerLobbyInfo::require(bool isRead, const wchar_t* failure) {
 }
 
 std::wstring PokerLobbyInfo::toDebugString() const {
-  return format(L"[PokerLobbyInfo: base=%s, rules=%s, avg.pot=%d, hands/hour=%d, players flop=%d]",
-                LobbyInfo::toDebugString(), rules_, averagePot_.getAmount(), handsPerHour_, playersFlop_);
+  return formatText(L"[PokerLobbyInfo: base=%s, rules=%s, avg.pot=%d, hands/hour=%d, players flop=%d]",
+                    LobbyInfo::toDebugString(), rules_, averagePot_.getAmount(), handsPerHour_, playersFlop_);
 }
 
 }  // namespace Tessel

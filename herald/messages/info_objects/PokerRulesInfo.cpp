@@ -10,7 +10,7 @@ Money PokerRulesInfo::getChipStackValue(int i) const {
 }
 
 std::wstring PokerRulesInfo::toDebugString() const {
-  return format(
+  return formatText(
       L"[PokerRulesInfo: description=%s, monetary unit: %d, big blind=%d, nr chip stack values=%d, chip stack "
       L"values=%s, min chip value=%s, ante=%s, small blind=%s, small bet=%s, big bet=%s, tourBuyIn=%s, tourFee=%s]",
       gameDescription_, monetaryUnitId_, bigBlind_.getAmount(), nrChipStackValues_, joinDebugTexts(chipStackValues_),

@@ -8,7 +8,7 @@ PokerSelfPlayerInfo::PokerSelfPlayerInfo(std::int64_t value, const SelfPlayerInf
 }
 
 std::wstring PokerSelfPlayerInfo::toDebugString() const {
-  return format(L"[PokerSelfPlayerInfo: %s]", SelfPlayerInfo::toDebugString());
+  return formatText(L"[PokerSelfPlayerInfo: %s]", SelfPlayerInfo::toDebugString());
 }
 
 }  // namespace Tessel

@@ -7,11 +7,11 @@ namespace Tessel {
 PrivateTourBuyInFeeType::PrivateTourBuyInFeeType(ByteStream& in) { PrivateTourBuyInFeeType::read(in); }
 
 std::wstring PrivateTourBuyInFeeType::toDebugString() const {
-  return format(L"[PrivateTourBuyInFeeType: iId=%d, iBuyIn=%li, iFee=%li]", id_, getBuyIn(), getFee());
+  return formatText(L"[PrivateTourBuyInFeeType: iId=%d, iBuyIn=%li, iFee=%li]", id_, getBuyIn(), getFee());
 }
 
 std::wstring PrivateTourBuyInFeeTypeList::toDebugString() const {
-  return format(PRIVATE_TOUR_LIST_TEXT, L"PrivateTourBuyInFeeTypeList");
+  return formatText(PRIVATE_TOUR_LIST_TEXT, L"PrivateTourBuyInFeeTypeList");
 }
 
 template class InfoList<PrivateTourBuyInFeeType>;

@@ -7,11 +7,11 @@ namespace Tessel {
 PrivateTourGameType::PrivateTourGameType(ByteStream& in) { PrivateTourGameType::read(in); }
 
 std::wstring PrivateTourGameType::toDebugString() const {
-  return format(L"[PrivateTourGameType: iId=%d, %s %s ]", gameType_, limit_, seats_);
+  return formatText(L"[PrivateTourGameType: iId=%d, %s %s ]", gameType_, limit_, seats_);
 }
 
 std::wstring PrivateTourGameTypeList::toDebugString() const {
-  return format(PRIVATE_TOUR_LIST_TEXT, L"PrivateTourGameTypeList");
+  return formatText(PRIVATE_TOUR_LIST_TEXT, L"PrivateTourGameTypeList");
 }
 
 template class InfoList<PrivateTourGameType>;

@@ -45,7 +45,7 @@ int PrivateTourLimitTypes::convertFromInternalTourType(LimitTypes::AllowedLimitT
 }
 
 std::wstring PrivateTourLimitTypes::toDebugString() const {
-  return format(L"[PrivateTourLimitTypes: iType=%d]", type_);
+  return formatText(L"[PrivateTourLimitTypes: iType=%d]", type_);
 }
 
 }  // namespace Tessel

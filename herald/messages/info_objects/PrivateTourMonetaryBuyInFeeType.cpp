@@ -9,12 +9,12 @@ PrivateTourMonetaryBuyInFeeType::PrivateTourMonetaryBuyInFeeType(ByteStream& in)
 }
 
 std::wstring PrivateTourMonetaryBuyInFeeType::toDebugString() const {
-  return format(L"[PrivateTourMonetaryBuyInFeeType: iMonetaryUnitId=%d, iBuyInFeeList=%s]", monetaryUnitId_,
-                buyInFees_);
+  return formatText(L"[PrivateTourMonetaryBuyInFeeType: iMonetaryUnitId=%d, iBuyInFeeList=%s]", monetaryUnitId_,
+                    buyInFees_);
 }
 
 std::wstring PrivateTourMonetaryBuyInFeeTypeList::toDebugString() const {
-  return format(PRIVATE_TOUR_LIST_TEXT, L"PrivateTourMonetaryBuyInFeeTypeList");
+  return formatText(PRIVATE_TOUR_LIST_TEXT, L"PrivateTourMonetaryBuyInFeeTypeList");
 }
 
 template class InfoList<PrivateTourMonetaryBuyInFeeType>;

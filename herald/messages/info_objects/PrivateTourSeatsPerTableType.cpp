@@ -7,11 +7,11 @@ namespace Tessel {
 PrivateTourSeatsPerTableType::PrivateTourSeatsPerTableType(ByteStream& in) { PrivateTourSeatsPerTableType::read(in); }
 
 std::wstring PrivateTourSeatsPerTableType::toDebugString() const {
-  return format(L"[PrivateTourSeatsPerTableType: iNumSeats=%d]", numSeats_);
+  return formatText(L"[PrivateTourSeatsPerTableType: iNumSeats=%d]", numSeats_);
 }
 
 std::wstring PrivateTourSeatsPerTableTypeList::toDebugString() const {
-  return format(PRIVATE_TOUR_LIST_TEXT, L"PrivateTourSeatsPerTableTypeList");
+  return formatText(PRIVATE_TOUR_LIST_TEXT, L"PrivateTourSeatsPerTableTypeList");
 }
 
 template class InfoList<PrivateTourSeatsPerTableType>;

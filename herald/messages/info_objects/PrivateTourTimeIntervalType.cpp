@@ -7,11 +7,11 @@ namespace Tessel {
 PrivateTourTimeIntervalType::PrivateTourTimeIntervalType(ByteStream& in) { PrivateTourTimeIntervalType::read(in); }
 
 std::wstring PrivateTourTimeIntervalType::toDebugString() const {
-  return format(L"[PrivateTourTimeIntervalType: iStartTime=%d, iEndTime=%d]", startTime_, endTime_);
+  return formatText(L"[PrivateTourTimeIntervalType: iStartTime=%d, iEndTime=%d]", startTime_, endTime_);
 }
 
 std::wstring PrivateTourTimeIntervalTypeList::toDebugString() const {
-  return format(PRIVATE_TOUR_LIST_TEXT, L"PrivateTourTimeIntervalTypeList");
+  return formatText(PRIVATE_TOUR_LIST_TEXT, L"PrivateTourTimeIntervalTypeList");
 }
 
 template class InfoList<PrivateTourTimeIntervalType>;

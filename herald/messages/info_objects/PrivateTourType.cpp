@@ -21,6 +21,6 @@ int PrivateTourType::convertFromInternalTourType(Tourney::TournamentType type) {
   }
 }
 
-std::wstring PrivateTourType::toDebugString() const { return format(L"[PrivateTourTour: iType=%d]", type_); }
+std::wstring PrivateTourType::toDebugString() const { return formatText(L"[PrivateTourTour: iType=%d]", type_); }
 
 }  // namespace Tessel

@@ -3,16 +3,16 @@
 
 namespace Tessel {
 
-std::wstring MonetaryPrizeInfo::toDebugString() const { return format(L"[MonetaryPrizeInfo: %s]", prize_); }
+std::wstring MonetaryPrizeInfo::toDebugString() const { return formatText(L"[MonetaryPrizeInfo: %s]", prize_); }
 
 std::wstring MonetaryPrizeList::toDebugString() const {
-  return format(L"[MonetaryPrizeList: NrElements=%d]", getNumberOfPrizes());
+  return formatText(L"[MonetaryPrizeList: NrElements=%d]", getNumberOfPrizes());
 }
 
-std::wstring TicketPrizeInfo::toDebugString() const { return format(L"[TicketPrizeInfo: %s]", description_); }
+std::wstring TicketPrizeInfo::toDebugString() const { return formatText(L"[TicketPrizeInfo: %s]", description_); }
 
 std::wstring TicketPrizeList::toDebugString() const {
-  return format(L"[TicketPrizeList: NrElements=%d]", getNumberOfPrizes());
+  return formatText(L"[TicketPrizeList: NrElements=%d]", getNumberOfPrizes());
 }
 
 }  // namespace Tessel

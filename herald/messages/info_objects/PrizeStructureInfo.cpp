@@ -8,7 +8,7 @@ const PrizeStructureType& PrizeStructureInfo::getPrizeStructureType() const {
 }
 
 std::wstring PrizeStructureInfo::toDebugString() const {
-  return format(
+  return formatText(
       L"[PrizeStructureInfo: NumPlayersInPayout=%d, PrizePool=%s, PrizeStructureType=%d, AddedCash=%s, "
       L"GuaranteedCash=%s]",
       numPlayersInPayout_, prizePool_, prizeStructureType_, addedCash_, guaranteedCash_);

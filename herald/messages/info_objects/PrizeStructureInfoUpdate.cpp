@@ -17,7 +17,8 @@ void PrizeStructureInfoUpdate::update(PrizeStructureInfo& prizeStructure) const 
 }
 
 std::wstring PrizeStructureInfoUpdate::toDebugString() const {
-  return format(L"[PrizeStructureInfoUpdate: NumPlayersInPayout=%d, PrizePool=%s]", numPlayersInPayout_, prizePool_);
+  return formatText(L"[PrizeStructureInfoUpdate: NumPlayersInPayout=%d, PrizePool=%s]", numPlayersInPayout_,
+                    prizePool_);
 }
 
 }  // namespace Tessel

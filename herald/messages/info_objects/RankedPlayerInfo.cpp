@@ -10,8 +10,8 @@ RankedPlayer RankedPlayerInfo::getRankedPlayer() const {
 }
 
 std::wstring RankedPlayerInfo::toDebugString() const {
-  return format(L"[RankedPlayerInfo: PlayerId=%d, PlayerName=%s, Position=%d, ChipStack=%s, Attributes=%d]", playerId_,
-                playerName_, position_, chipStack_, attributes_);
+  return formatText(L"[RankedPlayerInfo: PlayerId=%d, PlayerName=%s, Position=%d, ChipStack=%s, Attributes=%d]",
+                    playerId_, playerName_, position_, chipStack_, attributes_);
 }
 
 }  // namespace Tessel

@@ -5,7 +5,7 @@
 namespace Tessel {
 
 std::wstring RebuyInfo::toDebugString() const {
-  return format(
+  return formatText(
       L"[RebuyInfo: NumberOfRebuys=%d, DurationMs=%s, HasAddon=%d, iRebuy=%s, iRebuyCost=%s, iAddon=%s, iAddonCost=%s]",
       numberOfRebuys_, StringUtils::int64ToString(durationMs_), hasAddon_, rebuy_, rebuyCost_, addon_, addonCost_);
 }

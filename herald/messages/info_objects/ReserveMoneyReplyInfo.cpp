@@ -4,7 +4,7 @@
 namespace Tessel {
 
 std::wstring ReserveMoneyReplyInfo::toDebugString() const {
-  return format(L"[ReserveMoneyReplyInfo: ReserveStatus: %d, PlayerInGameInfo:%s]", reserveStatus_, player_);
+  return formatText(L"[ReserveMoneyReplyInfo: ReserveStatus: %d, PlayerInGameInfo:%s]", reserveStatus_, player_);
 }
 
 }  // namespace Tessel

@@ -4,7 +4,7 @@
 namespace Tessel {
 
 std::wstring SelfPlayerInfo::toDebugString() const {
-  return format(L"[SelfPlayerInfo: id=%d, nickname=%s, city=%s]", id_, nickName_, city_);
+  return formatText(L"[SelfPlayerInfo: id=%d, nickname=%s, city=%s]", id_, nickName_, city_);
 }
 
 }  // namespace Tessel

@@ -4,7 +4,7 @@
 namespace Tessel {
 
 std::wstring SitDownReplyInfo::toDebugString() const {
-  return format(L"[SitDownReplyInfo: Status: %d, %s]", status_, money_);
+  return formatText(L"[SitDownReplyInfo: Status: %d, %s]", status_, money_);
 }
 
 }  // namespace Tessel

@@ -4,7 +4,7 @@
 namespace Tessel {
 
 std::wstring SlowPlayerInfo::toDebugString() const {
-  return format(L"[SlowPlayerInfo: PlayerId: %li, Status: %d]", playerId_, status_);
+  return formatText(L"[SlowPlayerInfo: PlayerId: %li, Status: %d]", playerId_, status_);
 }
 
 }  // namespace Tessel

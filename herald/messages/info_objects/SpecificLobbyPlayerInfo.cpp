@@ -4,7 +4,7 @@
 namespace Tessel {
 
 std::wstring SpecificLobbyPlayerInfo::toDebugString() const {
-  return format(
+  return formatText(
       L"[SpecificLobbyPlayerInfo: LargestStack=%s, AverageStack=%s, StatusInTour=%d, CurrentPosition=%d, "
       L"OwnChipStack=%s, UserTableId=%d]",
       largestStack_, averageStack_, statusInTour_, currentPosition_, ownChipStack_, userTableId_);

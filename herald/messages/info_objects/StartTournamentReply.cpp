@@ -6,7 +6,7 @@ namespace Tessel {
 StartTournamentReply::StartTournamentReply(ByteStream& in) { StartTournamentReply::read(in); }
 
 std::wstring StartTournamentReply::toDebugString() const {
-  return format(L"[StartTournamentReply - iStartResult =%d]", startResult_);
+  return formatText(L"[StartTournamentReply - iStartResult =%d]", startResult_);
 }
 
 }  // namespace Tessel

@@ -4,7 +4,7 @@
 namespace Tessel {
 
 std::wstring SubscriptionInfo::toDebugString() const {
-  return format(L"[SubscriptionInfo - iNodeId=%d, iNodeType=%d]", nodeId_, type_);
+  return formatText(L"[SubscriptionInfo - iNodeId=%d, iNodeType=%d]", nodeId_, type_);
 }
 
 template class PlainRecord<SubscriptionInfo>;

@@ -4,8 +4,8 @@
 namespace Tessel {
 
 std::wstring TicketInfo::toDebugString() const {
-  return format(L"[TicketInfo: Description=%s, BuyIn=%s, Fee=%s, IsRestricted=%d]", description_, buyIn_, fee_,
-                isRestricted_);
+  return formatText(L"[TicketInfo: Description=%s, BuyIn=%s, Fee=%s, IsRestricted=%d]", description_, buyIn_, fee_,
+                    isRestricted_);
 }
 
 }  // namespace Tessel

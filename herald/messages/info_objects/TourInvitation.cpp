@@ -6,8 +6,8 @@ namespace Tessel {
 TourInvitation::TourInvitation(ByteStream& in) { TourInvitation::read(in); }
 
 std::wstring TourInvitation::toDebugString() const {
-  return format(L"[TourInvitation - iTournamentId=%d, iTableId=%d iNodeId=%d, iServerPort=%d iMonetaryUnitId=%d]",
-                tournamentId_, tableId_, nodeId_, serverPort_, monetaryUnitId_);
+  return formatText(L"[TourInvitation - iTournamentId=%d, iTableId=%d iNodeId=%d, iServerPort=%d iMonetaryUnitId=%d]",
+                    tournamentId_, tableId_, nodeId_, serverPort_, monetaryUnitId_);
 }
 
 }  // namespace Tessel

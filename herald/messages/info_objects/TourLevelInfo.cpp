@@ -18,8 +18,9 @@ TournamentLevelInformation TourLevelInfo::getInfo() const {
 }
 
 std::wstring TourLevelInfo::toDebugString() const {
-  return format(L"[TourLevelInfo: iNewLevel=%d, iDurationMs=%s, iNrHands=%d, iSmallBlind=%s, iBigBlind=%s, iAnte=%s]",
-                newLevel_, StringUtils::int64ToString(durationMs_), numHands_, smallBlind_, bigBlind_, ante_);
+  return formatText(
+      L"[TourLevelInfo: iNewLevel=%d, iDurationMs=%s, iNrHands=%d, iSmallBlind=%s, iBigBlind=%s, iAnte=%s]", newLevel_,
+      StringUtils::int64ToString(durationMs_), numHands_, smallBlind_, bigBlind_, ante_);
 }
 
 }  // namespace Tessel

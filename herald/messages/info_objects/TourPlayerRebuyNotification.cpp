@@ -4,8 +4,8 @@
 namespace Tessel {
 
 std::wstring TourPlayerRebuyNotification::toDebugString() const {
-  return format(L"[TourPlayerRebuyNotification: PlayerId=%s, PlayerName=%s, ChipStack=%s, Cost=%s, IsAddon=%s]",
-                playerId_, playerName_, chipStack_, cost_, isAddon_);
+  return formatText(L"[TourPlayerRebuyNotification: PlayerId=%s, PlayerName=%s, ChipStack=%s, Cost=%s, IsAddon=%s]",
+                    playerId_, playerName_, chipStack_, cost_, isAddon_);
 }
 
 }  // namespace Tessel

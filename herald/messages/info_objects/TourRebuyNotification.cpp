@@ -5,8 +5,8 @@
 namespace Tessel {
 
 std::wstring TourRebuyNotification::toDebugString() const {
-  return format(L"[TourRebuyNotification: Duration=%s, IsAddon=%s, NrRebuysRemaining=%s]",
-                StringUtils::int64ToString(duration_), isAddon_, nrRebuysRemaining_);
+  return formatText(L"[TourRebuyNotification: Duration=%s, IsAddon=%s, NrRebuysRemaining=%s]",
+                    StringUtils::int64ToString(duration_), isAddon_, nrRebuysRemaining_);
 }
 
 }  // namespace Tessel

@@ -5,7 +5,7 @@ namespace Tessel {
 
 // The cost stands before the chips here, unlike on the wire.
 std::wstring TourRebuyQuery::toDebugString() const {
-  return format(L"[TourRebuyQuery: TourId=%s, Cost=%s, Chips=%s, IsAddon=%s]", tourId_, cost_, chips_, isAddon_);
+  return formatText(L"[TourRebuyQuery: TourId=%s, Cost=%s, Chips=%s, IsAddon=%s]", tourId_, cost_, chips_, isAddon_);
 }
 
 }  // namespace Tessel

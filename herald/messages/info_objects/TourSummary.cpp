@@ -39,7 +39,7 @@ TsTime TourSummary::getWebRegistrationTime() const { return fromMilliseconds(web
 TsTime TourSummary::getClientSignupTime() const { return fromMilliseconds(clientRegistrationTime_); }
 
 std::wstring TourSummary::toDebugString() const {
-  return format(
+  return formatText(
       L"[TourSummary TourId=%d, Attributes=%d, Status=%d, ServerPort=%d, NameShort=%s,\tNameLong=%s, Description=%s, "
       L"GameType=%d, LimitType=%d, NumEntrants=%d, MaxNumEntrants=%d, CurrentNumPlayers=%d, MinNumEntrants=%d, "
       L"PlayersPerTable=%d, TicketInfo=%s, PrizeStructure=%s, StartingChips=%s, StartTime=%s, WebRegistrationTime=%s, "

@@ -5,16 +5,16 @@ namespace Tessel {
 
 std::wstring TourSummaryList::toDebugString() const {
   const TsArray<TourSummary>& infos = getItems();
-  return format(L"[TourSummaryList: NumInfos=%d, FirstInfo=%s]", infos.size(),
-                infos.empty() ? std::wstring() : infos[0].toDebugString());
+  return formatText(L"[TourSummaryList: NumInfos=%d, FirstInfo=%s]", infos.size(),
+                    infos.empty() ? std::wstring() : infos[0].toDebugString());
 }
 
 std::wstring TourSummaryUpdateList::toDebugString() const {
-  return format(L"[TourSummaryUpdateList: NumInfos=%d]", getItems().size());
+  return formatText(L"[TourSummaryUpdateList: NumInfos=%d]", getItems().size());
 }
 
 std::wstring TourSummaryDeleteList::toDebugString() const {
-  return format(L"[TourSummaryDeleteList: NumInfos=%d]", getItems().size());
+  return formatText(L"[TourSummaryDeleteList: NumInfos=%d]", getItems().size());
 }
 
 }  // namespace Tessel

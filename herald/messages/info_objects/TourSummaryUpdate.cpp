@@ -17,7 +17,7 @@ void TourSummaryUpdate::update(TourSummary& summary) const {
 }
 
 std::wstring TourSummaryUpdate::toDebugString() const {
-  return format(
+  return formatText(
       L"[TourSummaryUpdate TourId=%d, Attributes=%d, Status=%d, NumEntrants=%d, CurrentNumPlayers=%d, "
       L"PrizeStructureUpdate=%s, StartTime==%d, NumPlayersInMainEvent=%d, RegStatus=%d]",
       tourId_, attributes_, status_, numEntrants_, currentNumPlayers_, prizeStructureUpdate_, startTime_,

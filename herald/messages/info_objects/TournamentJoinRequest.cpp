@@ -10,8 +10,9 @@ TournamentJoinRequest::TournamentJoinRequest(int playerId, int tournamentId, std
     : playerId_(playerId), tournamentId_(tournamentId), tableId_(-1), password_(password) {}
 
 std::wstring TournamentJoinRequest::toDebugString() const {
-  return format(L" [TournamentJoinRequest - iPlayerId=%d, iTournamentId=%d, iTableId=%d, iReplyStatus=%d iPassword&%s]",
-                playerId_, tournamentId_, tableId_, replyStatus_, password_);
+  return formatText(
+      L" [TournamentJoinRequest - iPlayerId=%d, iTournamentId=%d, iTableId=%d, iReplyStatus=%d iPassword&%s]",
+      playerId_, tournamentId_, tableId_, replyStatus_, password_);
 }
 
 }  // namespace Tessel

@@ -210,8 +210,8 @@ void TreeNodeInfo::describe(FieldSink& sink) const {
 }
 
 std::wstring TreeNodeInfo::toDebugString() const {
-  return format(L"[TreeNodeInfo - iId=%d, iNameId=%d, iDefaultName=%s, iPort=%d, iNodeType=%d, iLobbyType=%d",
-                fields_.id, fields_.nameId, fields_.defaultName, fields_.port, fields_.nodeType, fields_.lobbyType);
+  return formatText(L"[TreeNodeInfo - iId=%d, iNameId=%d, iDefaultName=%s, iPort=%d, iNodeType=%d, iLobbyType=%d",
+                    fields_.id, fields_.nameId, fields_.defaultName, fields_.port, fields_.nodeType, fields_.lobbyType);
 }
 
 }  // namespace Tessel

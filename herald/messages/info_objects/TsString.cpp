@@ -45,7 +45,7 @@ bool TsString::write(ByteStream& out) const {
 
 ReadableObjectInfo* TsString::clone() const { return new TsString(*this); }
 
-std::wstring TsString::toDebugString() const { return format(L"[TsString: %s]", getString()); }
+std::wstring TsString::toDebugString() const { return formatText(L"[TsString: %s]", getString()); }
 
 int TsString::size() const { return static_cast<int>(utf8_.size() + sizeof(std::uint16_t)); }
 

@@ -14,8 +14,8 @@ TsArray<int> VIPPlayerInfo::getVIPIcons() const {
 }
 
 std::wstring VIPPlayerInfo::toDebugString() const {
-  return format(L"[ VIPPlayerInfo - PlayerId=%d, VIPType=%d iIsPlaying=%d, iName=%s, iVipStatus=%d]", playerId_,
-                vipType_, isPlaying_, vipName_, vipStatus_);
+  return formatText(L"[ VIPPlayerInfo - PlayerId=%d, VIPType=%d iIsPlaying=%d, iName=%s, iVipStatus=%d]", playerId_,
+                    vipType_, isPlaying_, vipName_, vipStatus_);
 }
 
 }  // namespace Tessel

@@ -4,7 +4,8 @@
 namespace Tessel {
 
 std::wstring VoteCastInfo::toDebugString() const {
-  return format(L"[VoteCastInfo: PlayerId: %li, Status: %d, NumberOfVotes: %li]", playerId_, status_, numberOfVotes_);
+  return formatText(L"[VoteCastInfo: PlayerId: %li, Status: %d, NumberOfVotes: %li]", playerId_, status_,
+                    numberOfVotes_);
 }
 
 }  // namespace Tessel

@@ -6,7 +6,7 @@ namespace Tessel {
 const PotType& WinPotInfo::getPotType() const { return PotType::getPotType(static_cast<AllowedPotType>(potType_)); }
 
 std::wstring WinPotInfo::toDebugString() const {
-  return format(L"[WinPotInfo: PotType=%d %s %s ]", potType_, credit_, handValue_);
+  return formatText(L"[WinPotInfo: PotType=%d %s %s ]", potType_, credit_, handValue_);
 }
 
 }  // namespace Tessel

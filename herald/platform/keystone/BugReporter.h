@@ -46,7 +46,7 @@ class HERALD_API BugReporter : public BugReporterInterface {
   /// The trace channel: a printf-style format and its arguments, checked when the call is compiled.
   template <class... Args>
   void trace(FormatString<std::type_identity_t<Args>...> format, const Args&... args) {
-    traceText(Tessel::format(format, args...));
+    traceText(formatText(format, args...));
   }
   void traceText(std::wstring_view text);
   void log(std::wstring_view text, std::wstring_view file, int level);

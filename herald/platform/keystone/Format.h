@@ -36,7 +36,7 @@ concept FormatNumberField = requires(const T& field) {
 template <class T>
 concept FormatText = DebugPrintable<T> || FormatTextField<T> || std::convertible_to<const T&, std::wstring_view>;
 
-/// One argument of `format`: a number or a text.
+/// One argument of `formatText`: a number or a text.
 class FormatArgument {
  public:
   template <FormatNumber T>
@@ -107,9 +107,10 @@ class FormatString {
 
 HERALD_API std::wstring formatArguments(const wchar_t* format, std::span<const FormatArgument> arguments);
 
-/// The format with each placeholder replaced by its argument, in order. Text is taken whole, U+0000 included.
+/// The format with each placeholder replaced by its argument, in order. Text is taken whole, U+0000 included. (By the
+/// name of std::format it would meet that one wherever an argument is a std::wstring.)
 template <class... Args>
-std::wstring format(FormatString<std::type_identity_t<Args>...> format, const Args&... args) {
+std::wstring formatText(FormatString<std::type_identity_t<Args>...> format, const Args&... args) {
   if constexpr (sizeof...(Args) == 0) {
     return format.get();
   } else {
