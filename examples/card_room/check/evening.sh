@@ -3,7 +3,15 @@
 set -euo pipefail
 programs=$1
 folder=$(mktemp -d)
-trap 'rm -rf "$folder"' EXIT
+server=''
+# What the programs have said is worth reading only when something has failed.
+clean_up() {
+  local status=$?
+  [ $status = 0 ] || cat "$folder/err" >&2 || true
+  [ -z "$server" ] || kill "$server" 2>/dev/null || true
+  rm -rf "$folder"
+}
+trap clean_up EXIT
 
 : >"$folder/out"  # so that it is there to be read, however late the server starts
 timeout 60 "$programs/card_room_server" --port 0 --seconds 10 --pause 20 --ledger "$folder/server" \

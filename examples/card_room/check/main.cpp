@@ -72,8 +72,8 @@ class Check {
         fault("connection " + std::to_string(id) + ": " + std::to_string(session.delivered) + " of "
               + std::to_string(session.sent.size()) + " messages have come");
     }
-    const double seconds = static_cast<double>(lastSent_ - firstSent_) / 1e9;
-    const auto rate = static_cast<std::int64_t>(static_cast<double>(latencies_.size()) / seconds);
+    const std::int64_t milliseconds = std::max<std::int64_t>((lastSent_ - firstSent_) / 1'000'000, 1);
+    const std::int64_t rate = static_cast<std::int64_t>(latencies_.size()) * 1000 / milliseconds;
     std::cout << "messages    " << sent << " sent, " << latencies_.size() << " delivered in order and unchanged, "
               << rate << " a second\n"
               << "connections " << cut << " cut\n"

@@ -22,7 +22,7 @@
 #endif
 
 // What is no class, but an argument of templates that are exported: with clang these are as visible as it is.
-#if defined(HERALD_STATIC) || defined(_WIN32)
+#if defined(_WIN32)
 #define HERALD_VISIBLE
 #else
 #define HERALD_VISIBLE HERALD_API
